@@ -1,0 +1,101 @@
+#include "DumpBrel.h"
+
+#include <getopt.h>
+
+#include <iostream>
+
+#include "ListCommand.h"
+#include "service/BrelCreator.h"
+
+namespace android {
+namespace dumpbrel {
+
+void resetOptionScanner() {
+    // optind 0 makes the library start over at its next call (glibc and bionic alike); a call
+    // on an empty word list does that without looking at any real word.
+    static char name[] = "dumpbrel";
+    static char* words[] = {name, nullptr};
+    optind = 0;
+    int savedOpterr = opterr;
+    opterr = 0;
+    getopt_long(1, words, "", nullptr, nullptr);
+    opterr = savedOpterr;
+    optind = 1;
+}
+
+DumpBrel::DumpBrel() : mBrelManager(BrelCreator::create()) {
+    if (mBrelManager == nullptr) std::cout << "\033[31m IBrelManager get error! finish \033[0m \r\n";
+}
+
+DumpBrel::~DumpBrel() {}
+
+sp<IBrelManager> DumpBrel::getBrelManager() {
+    if (mBrelManager == nullptr) mBrelManager = BrelCreator::create();
+    return mBrelManager;
+}
+
+void DumpBrel::registerListCommand(std::unique_ptr<ListCommand> command) {
+    command->registerAllOptions();
+    mCommands.push_back(std::move(command));
+}
+
+std::unordered_map<std::string, std::vector<std::string>> DumpBrel::getModuleCommands() {
+    std::unordered_map<std::string, std::vector<std::string>> commands;
+    forEachCommand([&commands](const Command* command) {
+        commands[command->getName()] = command->getAllLongOptions();
+    });
+    return commands;
+}
+
+void DumpBrel::forEachCommand(const std::function<void(const Command*)>& f) const {
+    for (const auto& command : mCommands) f(command.get());
+}
+
+void DumpBrel::usage() {
+    std::cout << "Usage: dumpbrel <sub_service>\n";
+    bool first = true;
+    forEachCommand([&first](const Command* command) {
+        std::cout << (first ? "sub_service: " : "             ") << command->getName() << '\n';
+        first = false;
+    });
+}
+
+ListCommand* DumpBrel::selectCommand(const std::string& name) const {
+    for (const auto& command : mCommands) {
+        if (command->getName() == name) return command.get();
+    }
+    return nullptr;
+}
+
+Status DumpBrel::parseArgs(const Arg& arg) {
+    resetOptionScanner();
+    if (optind >= arg.argc) return USAGE;
+    mSelectedCommand = arg.argv[optind];
+    if (selectCommand(mSelectedCommand) != nullptr) {
+        ++optind;
+        return OK;
+    }
+    if (!mSelectedCommand.empty() && mSelectedCommand[0] == '-') {
+        mSelectedCommand.clear();
+        return OK;
+    }
+    std::cout << arg.argv[0] << ": unrecognized option `" << arg.argv[1] << "`\n";
+    return USAGE;
+}
+
+Status DumpBrel::main(const Arg& arg) {
+    Status status = parseArgs(arg);
+    if (status != OK) {
+        usage();
+        return status;
+    }
+    ListCommand* command = selectCommand(mSelectedCommand);
+    if (command == nullptr) {
+        usage();
+        return USAGE;
+    }
+    return command->main(arg);
+}
+
+}  // namespace dumpbrel
+}  // namespace android

@@ -1,0 +1,5 @@
+#include "Main.h"
+
+int main(int argc, char** argv) {
+    return android::dumpbrel::dumpbrelMain(argc, argv);
+}

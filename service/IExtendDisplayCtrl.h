@@ -1,0 +1,14 @@
+#pragma once
+
+#include <utils/RefBase.h>
+
+namespace android {
+
+class IExtendDisplayCtrl : public RefBase {
+public:
+
+protected:
+    ~IExtendDisplayCtrl() override = default;
+};
+
+}  // namespace android

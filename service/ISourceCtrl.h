@@ -1,0 +1,14 @@
+#pragma once
+
+#include <utils/RefBase.h>
+
+namespace android {
+
+class ISourceCtrl : public RefBase {
+public:
+
+protected:
+    ~ISourceCtrl() override = default;
+};
+
+}  // namespace android

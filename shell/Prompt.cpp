@@ -1,0 +1,11 @@
+#include "Prompt.h"
+
+namespace android {
+namespace dumpbrel {
+
+int runPrompt(DumpBrel&) {
+    return 0;
+}
+
+}  // namespace dumpbrel
+}  // namespace android

@@ -1,0 +1,20 @@
+#include "Controls.h"
+#include "Panel.h"
+
+namespace {
+
+class SimAnionCtrl : public sim::Control<android::IAnionCtrl> {
+public:
+    SimAnionCtrl() : Control("IAnionCtrl", kDefaults) {}
+
+    int setAnionStatus(int status) override { return call<int>(__func__, status); }
+
+private:
+    static constexpr const char* kDefaults = R"({"setAnionStatus": 0})";
+};
+
+}  // namespace
+
+android::IAnionCtrl* sim::newAnionCtrl() {
+    return new SimAnionCtrl;
+}

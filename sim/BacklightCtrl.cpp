@@ -1,0 +1,18 @@
+#include "Controls.h"
+#include "Panel.h"
+
+namespace {
+
+class SimBacklightCtrl : public sim::Control<android::IBacklightCtrl> {
+public:
+    SimBacklightCtrl() : Control("IBacklightCtrl", kDefaults) {}
+
+private:
+    static constexpr const char* kDefaults = R"({})";
+};
+
+}  // namespace
+
+android::IBacklightCtrl* sim::newBacklightCtrl() {
+    return new SimBacklightCtrl;
+}

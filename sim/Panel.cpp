@@ -1,0 +1,188 @@
+#include "Panel.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+namespace sim {
+
+using Json = nlohmann::json;
+
+namespace {
+
+const Json* json(const void* p) {
+    return static_cast<const Json*>(p);
+}
+
+const char* envOrNull(const char* name) {
+    const char* value = getenv(name);
+    return value && *value ? value : nullptr;
+}
+
+// A parsed source of answers: the file of BREL_SIM_PANEL, or one interface's built-in part.
+struct Source {
+    std::string name;  // for problem lines
+    Json root;         // an object, or null when it could not be used
+};
+
+std::unique_ptr<Source> gFile;                  // BREL_SIM_PANEL, once read
+std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
+std::string gProblemSource = "built-in profile";
+
+Source parse(std::string name, const std::string& text) {
+    Source source{std::move(name), nullptr};
+    try {
+        source.root = Json::parse(text);
+    } catch (const Json::parse_error& e) {
+        fprintf(stderr, "dumpbrel: simulated panel: %s: not valid JSON: %s\n",
+                source.name.c_str(), e.what());
+        source.root = nullptr;
+        return source;
+    }
+    if (!source.root.is_object()) {
+        fprintf(stderr, "dumpbrel: simulated panel: %s: expected a JSON object, got %s\n",
+                source.name.c_str(), source.root.type_name());
+        source.root = nullptr;
+    }
+    return source;
+}
+
+const Source& fileSource(const char* path) {
+    if (!gFile || gFile->name != path) {
+        std::ifstream in(path, std::ios::binary);
+        std::ostringstream text;
+        if (in) text << in.rdbuf();
+        if (!in || in.bad()) {
+            fprintf(stderr, "dumpbrel: simulated panel: %s: cannot read: %s\n", path,
+                    strerror(errno));
+            gFile = std::make_unique<Source>(Source{path, nullptr});
+        } else {
+            gFile = std::make_unique<Source>(parse(path, text.str()));
+        }
+    }
+    return *gFile;
+}
+
+const Source& builtInSource(const char* iface, const char* defaults) {
+    auto found = gBuiltIn.find(iface);
+    if (found == gBuiltIn.end())
+        found = gBuiltIn.emplace(iface, parse("built-in profile", defaults)).first;
+    return found->second;
+}
+
+}  // namespace
+
+bool Node::isObject() const { return mJson && json(mJson)->is_object(); }
+bool Node::isArray() const { return mJson && json(mJson)->is_array(); }
+bool Node::isString() const { return mJson && json(mJson)->is_string(); }
+bool Node::isBool() const { return mJson && json(mJson)->is_boolean(); }
+bool Node::isInteger() const { return mJson && json(mJson)->is_number_integer(); }
+bool Node::isNumber() const { return mJson && json(mJson)->is_number(); }
+const char* Node::typeName() const { return mJson ? json(mJson)->type_name() : "nothing"; }
+
+Node Node::member(const char* name) const {
+    if (!isObject()) return Node();
+    auto found = json(mJson)->find(name);
+    return found == json(mJson)->end() ? Node() : Node(&*found);
+}
+
+size_t Node::size() const { return isArray() ? json(mJson)->size() : 0; }
+
+Node Node::at(size_t i) const { return i < size() ? Node(&(*json(mJson))[i]) : Node(); }
+
+bool Node::getSigned(long long& out) const {
+    const Json& j = *json(mJson);
+    if (j.is_number_unsigned()) {
+        auto v = j.get<unsigned long long>();
+        if (v > static_cast<unsigned long long>(std::numeric_limits<long long>::max()))
+            return false;
+        out = static_cast<long long>(v);
+        return true;
+    }
+    out = j.get<long long>();
+    return true;
+}
+
+bool Node::getUnsigned(unsigned long long& out) const {
+    const Json& j = *json(mJson);
+    if (j.is_number_unsigned()) {
+        out = j.get<unsigned long long>();
+        return true;
+    }
+    long long v = j.get<long long>();
+    if (v < 0) return false;
+    out = static_cast<unsigned long long>(v);
+    return true;
+}
+
+double Node::getNumber() const { return json(mJson)->get<double>(); }
+bool Node::getBool() const { return json(mJson)->get<bool>(); }
+std::string Node::getString() const { return json(mJson)->get<std::string>(); }
+
+Node Panel::lookup(const char* iface, const char* op, const char* defaults) {
+    const char* path = envOrNull("BREL_SIM_PANEL");
+    const Source& source = path ? fileSource(path) : builtInSource(iface, defaults);
+    gProblemSource = source.name;
+    if (source.root.is_null()) return Node();
+    if (path) {
+        Node panel = Node(&source.root).member(iface);
+        if (panel.exists() && !panel.isObject()) {
+            problem(iface, std::string("expected an object of operations, got ") + panel.typeName());
+            return Node();
+        }
+        return panel.member(op);
+    }
+    return Node(&source.root).member(op);
+}
+
+void Panel::trace(const std::string& line) {
+    const char* path = envOrNull("BREL_SIM_TRACE");
+    if (!path) return;
+    int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    if (fd < 0) {
+        fprintf(stderr, "dumpbrel: simulated panel: trace %s: %s\n", path, strerror(errno));
+        return;
+    }
+    std::string text = line + "\n";
+    ssize_t written = ::write(fd, text.data(), text.size());
+    (void)written;
+    close(fd);
+}
+
+bool Panel::absent(const char* word) {
+    const char* list = getenv("BREL_SIM_ABSENT");
+    if (!list) return false;
+    size_t length = strlen(word);
+    for (const char* p = list;;) {
+        const char* comma = strchr(p, ',');
+        size_t size = comma ? static_cast<size_t>(comma - p) : strlen(p);
+        if (size == length && strncmp(p, word, length) == 0) return true;
+        if (!comma) return false;
+        p = comma + 1;
+    }
+}
+
+void Panel::problem(const std::string& key, const std::string& what) {
+    fprintf(stderr, "dumpbrel: simulated panel: %s: %s: %s\n", gProblemSource.c_str(), key.c_str(),
+            what.c_str());
+}
+
+void Panel::reset() {
+    gFile.reset();
+    gBuiltIn.clear();
+}
+
+std::string jsonString(std::string_view text) {
+    return Json(std::string(text)).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace sim
