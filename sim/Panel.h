@@ -308,7 +308,7 @@ protected:
     template <typename R = void, typename... A>
     R call(const char* op, const A&... args) {
         std::string line = std::string(mName) + "." + op + "(";
-        bool first = true;
+        [[maybe_unused]] bool first = true;
         (traceArgument(line, first, args), ...);
         line += ')';
 
