@@ -27,11 +27,11 @@ void putQuoted(std::string_view text) {
 
 }  // namespace
 
-std::vector<std::string> Input::fields(size_t count) const {
+std::vector<std::string> Input::fields(size_t count, char delimiter) const {
     std::vector<std::string> out(count);
     if (text == nullptr) return out;
     std::istringstream stream(text);
-    for (auto& field : out) std::getline(stream, field, ',');
+    for (auto& field : out) std::getline(stream, field, delimiter);
     return out;
 }
 

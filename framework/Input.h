@@ -21,7 +21,8 @@ public:
 
     // Comma fields: `count` reads of std::getline on ','. A field that is not there is empty;
     // text behind the last field read is ignored. A missing argument gives empty fields.
-    std::vector<std::string> fields(size_t count) const;
+    // A row that splits at another character names it as `delimiter`.
+    std::vector<std::string> fields(size_t count, char delimiter = ',') const;
 
     // std::stoi / std::stoul semantics (leading blanks, a sign, digits, anything after them
     // ignored). Text they cannot convert is refused with one line and gives false.
