@@ -1,7 +1,42 @@
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+#include <utils/String16.h>
+#include <utils/String8.h>
+
+#include "framework/Lines.h"
 #include "modules/Modules.h"
 
 namespace android {
 namespace dumpbrel {
+
+namespace {
+
+// A switch is on for the exact word "on" only; anything else, numbers included, means off.
+bool isOn(const char* text) {
+    return text != nullptr && strcmp(text, "on") == 0;
+}
+
+// The tool's own codes for the resolutions of the extended display.
+const char* resolutionName(int code) {
+    switch (code) {
+        case 1:
+            return "3840x2160p60";
+        case 2:
+            return "1920x1080p60";
+        case 3:
+            return "720x480p60";
+        default:
+            return "Auto";
+    }
+}
+
+const char* onOff(bool on) {
+    return on ? "on" : "off";
+}
+
+}  // namespace
 
 ExtendDisplayCtrlCommand::ExtendDisplayCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -14,6 +49,65 @@ std::string ExtendDisplayCtrlCommand::getSimpleDescription() const {
 
 Status ExtendDisplayCtrlCommand::registerAllOptions() {
     addHelp();
+    add("e:", "setExtendDisplayHDCPStatus", kRequired, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input& in) {
+            display.setExtendDisplayHDCPStatus(isOn(in.text));
+            return OK;
+        });
+    add("s", "getExtendDisplayHDCPStatus", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            std::cout << "getExtendDisplayHDCPStatus: "
+                      << onOff(display.getExtendDisplayHDCPStatus() == 1) << '\n';
+            return OK;
+        });
+    add("e:", "setTypecOutHDCPStatus", kRequired, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input& in) {
+            display.setTypecOutHDCPStatus(isOn(in.text));
+            return OK;
+        });
+    add("t", "getTypecOutHDCPStatus", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            std::cout << "getTypecOutHDCPStatus: " << onOff(display.getTypecOutHDCPStatus() == 1)
+                      << '\n';
+            return OK;
+        });
+    add("a", "getExtendDisplayUserResolutionList", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            printLines(display.getExtendDisplayUserResolutionList());
+            return OK;
+        });
+    add("b:", "setExtendDisplayEnabled", kRequired, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input& in) {
+            display.setExtendDisplayEnabled(isOn(in.text));
+            return OK;
+        });
+    add("c", "getExtendDisplayEnabled", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            std::cout << "getExtendDisplayEnabled: " << onOff(display.getExtendDisplayEnabled())
+                      << '\n';
+            return OK;
+        });
+    add("d:", "setHdmiInOutEnabled", kRequired, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input& in) {
+            display.setHdmiInOutEnabled(isOn(in.text));
+            return OK;
+        });
+    add("f", "getHdmiInOutEnabled", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            std::cout << "getHdmiInOutEnabled: " << onOff(display.getHdmiInOutEnabled()) << '\n';
+            return OK;
+        });
+    add("g:", "setExtendDisplayResolution", kRequired, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input& in) {
+            display.setExtendDisplayResolution(String16(resolutionName(atoi(in.text))));
+            return OK;
+        });
+    add("m", "getExtendDisplayResolution", kNone, mExtendDisplayCtrl,
+        [](IExtendDisplayCtrl& display, const Input&) {
+            std::cout << "getExtendDisplayResolution: "
+                      << String8(display.getExtendDisplayResolution()).c_str() << '\n';
+            return OK;
+        });
     return OK;
 }
 

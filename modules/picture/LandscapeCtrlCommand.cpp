@@ -1,3 +1,8 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "framework/Lines.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +19,19 @@ std::string LandscapeCtrlCommand::getSimpleDescription() const {
 
 Status LandscapeCtrlCommand::registerAllOptions() {
     addHelp();
+    add("a", "getLandscapeApp", kNone, mLandscapeCtrl, [](ILandscapeCtrl& landscape, const Input&) {
+        printLines(landscape.getLandscapeApp(), "getLandscapeApp: ");
+        return OK;
+    });
+    add("l:", "setLandscapeAppList", kRequired, mLandscapeCtrl,
+        [](ILandscapeCtrl& landscape, const Input& in) {
+            // The whole argument is one application: commas and blanks are not split.
+            std::vector<std::string> list;
+            list.push_back(in.text);
+            landscape.setLandscapeAppList(list);
+            std::cout << "setLandscapeApp: " << in.text << '\n';
+            return OK;
+        });
     return OK;
 }
 

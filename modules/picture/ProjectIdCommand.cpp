@@ -1,7 +1,21 @@
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+
+#include <utils/String8.h>
+
 #include "modules/Modules.h"
 
 namespace android {
 namespace dumpbrel {
+
+namespace {
+
+// The typed index is the panel size of the help text; the service counts its projects
+// without the value 1.
+constexpr int kProjectIds[] = {0, 2, 3, 4, 5};
+
+}  // namespace
 
 ProjectIdCommand::ProjectIdCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -14,6 +28,33 @@ std::string ProjectIdCommand::getSimpleDescription() const {
 
 Status ProjectIdCommand::registerAllOptions() {
     addHelp();
+    add("s:", "setProjectIdByIndex", kRequired, mProjectId,
+        [](IProjectId& project, const Input& in) {
+            if (in.missing()) return USAGE;
+            int index = atoi(in.text);
+            if (index < 0 || index > 4) {
+                fputs("Invalid ProjectId\n", stderr);
+                return USAGE;
+            }
+            project.setProjectIdByIndex(kProjectIds[index]);
+            return OK;
+        },
+        "0-4:\n0-PANNAL_SIZE_NONE\n1-PANNAL_SIZE_55\n2-PANNAL_SIZE_65\n3-PANNAL_SIZE_75\n"
+        "4-PANNAL_SIZE_86");
+    add("g", "getProjectIdIndex", kNone, mProjectId, [](IProjectId& project, const Input&) {
+        std::cout << "mEnumProjectId = " << project.getProjectIdIndex() << '\n';
+        return OK;
+    });
+    add("e", "getEyePqFixedEnable", kNone, mProjectId, [](IProjectId& project, const Input&) {
+        std::cout << "getEyePqFixedEnable = " << project.getEyePqFixedEnable() << '\n';
+        return OK;
+    });
+    // -v takes an argument that is never read; the long form takes none.
+    add("v:", "getEyePqFixedValue", kNone, mProjectId, [](IProjectId& project, const Input&) {
+        std::cout << "getEyePqFixedValue = " << String8(project.getEyePqFixedValue()).c_str()
+                  << '\n';
+        return OK;
+    });
     return OK;
 }
 
