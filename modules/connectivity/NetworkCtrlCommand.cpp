@@ -1,3 +1,10 @@
+#include <cstdlib>
+#include <iostream>
+
+#include <utils/String16.h>
+#include <utils/String8.h>
+
+#include "framework/Flags.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +19,114 @@ std::string NetworkCtrlCommand::getSimpleDescription() const {
     return "NetworkCtrl Module";
 }
 
+// Several letters stand twice in this table (d, e): the last row of a letter runs, and the first
+// spec of the letter decides whether it takes an argument. GetWOLEnable, GetWOWEnable and
+// getWifiDongleStatus take an argument by their letter that they do not read.
 Status NetworkCtrlCommand::registerAllOptions() {
     addHelp();
+    add("r:", "getAntennaRssi", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        String8 rssi(net.getAntennaRssi(atoi(in.text)));
+        std::cout << "antenna: " << in.text << ", rssi: " << rssi.c_str() << '\n';
+        return OK;
+    });
+    add("i:", "setMcuDhcpIp", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        std::cout << "setMcuDhcpIp ret = " << net.setMcuDhcpIp(String16(in.text)) << '\n';
+        return OK;
+    });
+    add("g:", "setMcuDhcpGw", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        std::cout << "setMcuDhcpGw ret = " << net.setMcuDhcpGw(String16(in.text)) << '\n';
+        return OK;
+    });
+    add("m:", "setMcuDhcpMsk", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        std::cout << "setMcuDhcpMsk ret = " << net.setMcuDhcpMsk(String16(in.text)) << '\n';
+        return OK;
+    });
+    add("e:", "setMcuDhcpEnable", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool enable = false;
+            if (!toFlag(in, enable)) return USAGE;
+            std::cout << "setMcuDhcpEnable ret = " << net.setMcuDhcpEnable(enable) << '\n';
+            return OK;
+        });
+    add("l:", "SetWOLEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        bool enable = false;
+        if (!toFlag(in, enable)) return USAGE;
+        bool ret = net.SetWOLEnable(enable);
+        std::cout << "SetWOLEnable " << in.text << ", ret = " << ret << '\n';
+        return OK;
+    });
+    add("s:", "GetWOLEnable", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "GetWOLEnable ret = " << net.GetWOLEnable() << '\n';
+        return OK;
+    });
+    add("w:", "SetWOWEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
+        bool enable = false;
+        if (!toFlag(in, enable)) return USAGE;
+        bool ret = net.SetWOWEnable(enable);
+        std::cout << "SetWOWEnable " << in.text << ", ret = " << ret << '\n';
+        return OK;
+    });
+    add("n:", "GetWOWEnable", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "GetWOWEnable ret = " << net.GetWOWEnable() << '\n';
+        return OK;
+    });
+    add("d:", "getWifiDongleStatus", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "getWifiDongleStatus: " << trueFalse(net.getWifiDongleStatus()) << '\n';
+        return OK;
+    });
+    add("x:", "setMcuToControlMonitorNetwork", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool enable = false;
+            if (!toFlag(in, enable)) return USAGE;
+            bool ret = net.setMcuToControlMonitorNetwork(enable);
+            std::cout << "setMcuToControlMonitorNetwork " << in.text << ", ret = " << ret << '\n';
+            return OK;
+        });
+    add("D:", "disableApUsbDevice", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool disable = false;
+            if (!toFlag(in, disable)) return USAGE;
+            bool ret = net.disableApUsbDevice(disable);
+            std::cout << "disableApUsbDevice " << in.text << ", ret = " << ret << '\n';
+            return OK;
+        });
+    add("d:", "setSharingDirection", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool direction = false;
+            if (!toFlag(in, direction)) return USAGE;
+            bool ret = net.setSharingDirection(direction);
+            std::cout << "setSharingDirection " << in.text << ", ret = " << ret << '\n';
+            return OK;
+        });
+    add("e", "getSharingDirection", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "getSharingDirection ret = " << net.getSharingDirection() << '\n';
+        return OK;
+    });
+    add("a:", "setAndroidToPcSharing", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool enable = false;
+            if (!toFlag(in, enable)) return USAGE;
+            bool ret = net.setAndroidToPcSharing(enable);
+            std::cout << "setAndroidToPcSharing " << in.text << ", ret = " << ret << '\n';
+            return OK;
+        });
+    add("b", "getAndroidToPcSharing", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "getAndroidToPcSharing ret = " << net.getAndroidToPcSharing() << '\n';
+        return OK;
+    });
+    add("J:", "setHotspotSharing", kRequired, mNetworkCtrl,
+        [](INetworkCtrl& net, const Input& in) {
+            bool enable = false;
+            if (!toFlag(in, enable)) return USAGE;
+            bool ret = net.setHotspotSharing(enable);
+            std::cout << "setHotspotSharing " << in.text << ", ret = " << ret << '\n';
+            return OK;
+        });
+    // No blank before "ret" in this one line.
+    add("j", "getHotspotSharing", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
+        std::cout << "getHotspotSharingret = " << net.getHotspotSharing() << '\n';
+        return OK;
+    });
     return OK;
 }
 
