@@ -68,13 +68,14 @@ protected:
     void add(std::string_view shortOption, std::string_view longOption, int32_t hasArg,
              const sp<I>& iface, Body body, std::string_view help = {});
 
+    // A row with a handler of its own, numbered by its place in the table.
+    void addRow(std::string_view shortOption, std::string_view longOption, int32_t hasArg,
+                Handler handler, std::string_view help = {});
+
     std::vector<Option> mOptions;
 
 private:
     const Option* mRunning = nullptr;
-
-    void addRow(std::string_view shortOption, std::string_view longOption, int32_t hasArg,
-                Handler handler, std::string_view help);
 };
 
 template <typename I>
