@@ -1,3 +1,7 @@
+#include <iostream>
+
+#include <utils/String8.h>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +16,45 @@ std::string Rs232CtrlCommand::getSimpleDescription() const {
     return "Rs232Ctrl Module";
 }
 
+// getEmmcSize and getRamSize have no letter: only their long names reach them.
 Status Rs232CtrlCommand::registerAllOptions() {
     addHelp();
+    add("f:", "getSmartRs232FrontUsb", kRequired, mRs232Ctrl,
+        [](IRs232Ctrl& rs232, const Input& in) {
+            int selector = 0;
+            if (!in.toInt(selector)) return USAGE;
+            String8 state(rs232.getSmartRs232FrontUsb(selector));
+            std::cout << "getSmartRs232FrontUsb: " << selector << " = " << state.c_str() << '\n';
+            return OK;
+        });
+    add("s:", "getSmartRs232SideUsb", kRequired, mRs232Ctrl,
+        [](IRs232Ctrl& rs232, const Input& in) {
+            int selector = 0;
+            if (!in.toInt(selector)) return USAGE;
+            String8 state(rs232.getSmartRs232SideUsb(selector));
+            std::cout << "getSmartRs232SideUsb: " << selector << " = " << state.c_str() << '\n';
+            return OK;
+        });
+    add("m:", "getSmartRs232EthMac", kRequired, mRs232Ctrl,
+        [](IRs232Ctrl& rs232, const Input& in) {
+            int selector = 0;
+            if (!in.toInt(selector)) return USAGE;
+            String8 mac(rs232.getSmartRs232EthMac(selector));
+            std::cout << "getSmartRs232EthMac: " << selector << " = " << mac.c_str() << '\n';
+            return OK;
+        });
+    add("t", "getATRs232TestResult", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
+        std::cout << "getATRs232TestResult: " << rs232.getATRs232TestResult() << '\n';
+        return OK;
+    });
+    add("", "getEmmcSize", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
+        std::cout << "getEmmcSize: " << String8(rs232.getEmmcSize()).c_str() << '\n';
+        return OK;
+    });
+    add("", "getRamSize", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
+        std::cout << "getRamSize: " << String8(rs232.getRamSize()).c_str() << '\n';
+        return OK;
+    });
     return OK;
 }
 

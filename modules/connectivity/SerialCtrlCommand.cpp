@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +15,45 @@ std::string SerialCtrlCommand::getSimpleDescription() const {
     return "SerialCtrl Module";
 }
 
+// Three short specs here are whole words: every letter of them is a letter of the option
+// string, but only S, s and g find a row, and as none of them is followed by a colon where it
+// first stands, they reach their rows with no argument. The words work by their long names.
 Status SerialCtrlCommand::registerAllOptions() {
     addHelp();
+    add("SetSerialSwitch:", "SetSerialSwitch", kRequired, mSerialCtrl,
+        [](ISerialCtrl& serial, const Input& in) {
+            if (in.missing()) return USAGE;
+            std::vector<std::string> field = in.fields(3);  // device, enable, baud rate
+            int device = atoi(field[0].c_str());
+            serial.SetSerialSwitch(device, atoi(field[1].c_str()) != 0, atoi(field[2].c_str()));
+            std::cout << "Device " << device << ": , Enable: " << field[1]
+                      << ", Baudrate: " << field[2] << '\n';
+            return OK;
+        });
+    add("b", "getRS232Baudrate", kNone, mSerialCtrl, [](ISerialCtrl& serial, const Input&) {
+        std::cout << "RS232 Baudrate: " << serial.getRS232Baudrate() << '\n';
+        return OK;
+    });
+    add("p", "getRS232Port", kNone, mSerialCtrl, [](ISerialCtrl& serial, const Input&) {
+        std::cout << "RS232 port: " << serial.getRS232Port() << '\n';
+        return OK;
+    });
+    add("setSerialDeviceId:", "setSerialDeviceId", kRequired, mSerialCtrl,
+        [](ISerialCtrl& serial, const Input& in) {
+            if (in.missing()) return USAGE;
+            std::vector<std::string> field = in.fields(2);  // device, ID
+            serial.setSerialDeviceId(atoi(field[0].c_str()), atoi(field[1].c_str()));
+            std::cout << "Device " << field[0] << ": , ID: " << field[1] << '\n';
+            return OK;
+        });
+    add("getSerialDeviceId", "getSerialDeviceId", kRequired, mSerialCtrl,
+        [](ISerialCtrl& serial, const Input& in) {
+            if (in.missing()) return USAGE;
+            int device = atoi(in.text);
+            int id = serial.getSerialDeviceId(device);
+            std::cout << "Device: " << device << " ID: " << id << '\n';
+            return OK;
+        });
     return OK;
 }
 
