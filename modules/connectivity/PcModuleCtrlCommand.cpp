@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +17,40 @@ std::string PcModuleCtrlCommand::getSimpleDescription() const {
 
 Status PcModuleCtrlCommand::registerAllOptions() {
     addHelp();
+    add("s", "getPcState", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
+        std::cout << "pc_state: " << pc.getPcState() << '\n';
+        return OK;
+    });
+    add("o", "setPcSwitchOn", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
+        std::cout << "ret: " << pc.setPcSwitchOn() << '\n';
+        return OK;
+    });
+    add("f", "setPcSwitchOff", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
+        std::cout << "ret: " << pc.setPcSwitchOff() << '\n';
+        return OK;
+    });
+    add("r", "setPcRecovery", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
+        std::cout << "ret: " << pc.setPcRecovery() << '\n';
+        return OK;
+    });
+    // Bare numbers, one to a line; an empty list prints nothing.
+    add("l", "getSupportPcBootModeList", kNone, mPcModuleCtrl,
+        [](IPcModuleCtrl& pc, const Input&) {
+            for (_EnumPcBootMode mode : pc.getSupportPcBootModeList())
+                std::cout << static_cast<int32_t>(mode) << '\n';
+            return OK;
+        });
+    add("m:", "setPcBootMode", kRequired, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input& in) {
+        if (in.missing()) return USAGE;
+        int mode = atoi(in.text);
+        bool ret = pc.setPcBootMode(mode);
+        std::cout << "setPcBootMode: " << mode << ", ret = " << ret << '\n';
+        return OK;
+    });
+    add("g", "getPcBootMode", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
+        std::cout << "getPcBootMode: " << pc.getPcBootMode() << '\n';
+        return OK;
+    });
     return OK;
 }
 
