@@ -4,9 +4,8 @@
 
 namespace android {
 
+// The tool obtains this control but calls none of its operations.
 class ISensorBoxCtrl : public RefBase {
-public:
-
 protected:
     ~ISensorBoxCtrl() override = default;
 };

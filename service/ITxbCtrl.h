@@ -4,8 +4,17 @@
 
 namespace android {
 
+// Both self-test operations take an array of kTxbSelfTestValues ints.
+constexpr int kTxbSelfTestValues = 32;
+
 class ITxbCtrl : public RefBase {
 public:
+    virtual int getTxbSensorMuteState() = 0;
+    virtual bool setTxbSensorMuteState(int num, bool state) = 0;
+    // Fills at most 32 entries of `values` and returns how many it wrote.
+    virtual int getTxbSensorSelfTestState(int* values) = 0;
+    // Reads `values`; `len` goes to the service as given.
+    virtual bool setTxbSensorSelfTestState(const int* values, int len) = 0;
 
 protected:
     ~ITxbCtrl() override = default;

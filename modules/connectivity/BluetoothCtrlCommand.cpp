@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +17,16 @@ std::string BluetoothCtrlCommand::getSimpleDescription() const {
 
 Status BluetoothCtrlCommand::registerAllOptions() {
     addHelp();
+    add("w", "isBleWakeup", kNone, mBluetoothCtrl, [](IBluetoothCtrl& bt, const Input&) {
+        std::cout << "isBleWakeup: " << bt.isBleWakeup() << "\n";
+        return OK;
+    });
+    // The service gives no answer here: the line repeats the argument as typed.
+    add("s:", "setBleWakeup", kRequired, mBluetoothCtrl, [](IBluetoothCtrl& bt, const Input& in) {
+        bt.setBleWakeup(atoi(in.text) != 0);
+        std::cout << "setBleWakeup: " << in.text << "\n";
+        return OK;
+    });
     return OK;
 }
 

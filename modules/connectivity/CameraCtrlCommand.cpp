@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +17,26 @@ std::string CameraCtrlCommand::getSimpleDescription() const {
 
 Status CameraCtrlCommand::registerAllOptions() {
     addHelp();
+    // The text and both numbers run together, value_b first.
+    add("i:", "getCameraDeviceInfo", kRequired, mCameraCtrl,
+        [](ICameraCtrl& camera, const Input& in) {
+            BrelCameraInfo info;
+            camera.getCameraDeviceInfo(atoi(in.text), info);
+            std::cout << "CameraDeviceInfo: " << info.info_text << info.value_b << info.value_a
+                      << "\n";
+            return OK;
+        });
+    add("g", "getCameraEnable", kNone, mCameraCtrl, [](ICameraCtrl& camera, const Input&) {
+        std::cout << "getCameraEnable: " << trueFalse(camera.getCameraEnable()) << '\n';
+        return OK;
+    });
+    add("s:", "setCameraEnable", kRequired, mCameraCtrl, [](ICameraCtrl& camera, const Input& in) {
+        int state = 0;
+        if (!in.toInt(state)) return USAGE;
+        bool ret = camera.setCameraEnable(state != 0);
+        std::cout << "setCameraEnable state= " << state << " ret= " << ret << '\n';
+        return OK;
+    });
     return OK;
 }
 
