@@ -15,6 +15,9 @@
 //     "status"  exit status (absent: 0)
 //     "calls"   the trace, lines
 // An absent "out", "err" or "calls" means nothing at all; null means not checked.
+// A word of "args" or a line of "out", "err" or "calls" may also be written in pieces, as an
+// array of strings, byte values (0-255, for bytes that JSON text cannot hold) and
+// {"repeat": <piece>, "times": n} (for long texts).
 
 #include <fcntl.h>
 #include <poll.h>
@@ -29,6 +32,7 @@
 #include <fstream>
 #include <map>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -70,6 +74,22 @@ std::vector<Case> loadCases() {
     return cases;
 }
 
+// A text given as a string or in pieces (see the top).
+std::string text(const Json& value) {
+    if (value.is_string()) return value.get<std::string>();
+    if (value.is_number_unsigned() && value.get<unsigned>() < 256)
+        return std::string(1, static_cast<char>(value.get<unsigned>()));
+    if (value.is_object()) {
+        std::string piece = text(value.at("repeat")), whole;
+        for (int i = value.at("times").get<int>(); i > 0; --i) whole += piece;
+        return whole;
+    }
+    if (!value.is_array()) throw std::invalid_argument("not a text: " + value.dump());
+    std::string whole;
+    for (const auto& piece : value) whole += text(piece);
+    return whole;
+}
+
 std::string expected(const Json& spec, const Json& options) {
     if (spec.is_string()) return spec.get<std::string>();
     std::string text;
@@ -77,7 +97,7 @@ std::string expected(const Json& spec, const Json& options) {
         if (line == "@options") {
             for (const auto& option : options) text += option.get<std::string>() + "\n";
         } else {
-            text += line.get<std::string>() + "\n";
+            text += ::text(line) + "\n";
         }
     }
     return text;
@@ -234,7 +254,7 @@ TEST_P(E2E, Case) {
     std::vector<std::string> args;
     if (!c.module.empty()) args.push_back(c.module);
     Json words = row.value("args", Json::array());
-    for (const auto& a : words) args.push_back(a.get<std::string>());
+    for (const auto& a : words) args.push_back(text(a));
     std::string input = row.value("stdin", std::string());
     Result r = run(args, env, row.contains("stdin") ? &input : nullptr, uid);
 
