@@ -1,3 +1,7 @@
+#include <iostream>
+
+#include <utils/String8.h>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +16,49 @@ std::string AtCfgControlCommand::getSimpleDescription() const {
     return "AtCfgControl Module";
 }
 
+// Key texts go through as typed, with no test of their form.
 Status AtCfgControlCommand::registerAllOptions() {
     addHelp();
+    // Shares its letter with readAttestationKey, which takes -r: reached by its long name only.
+    add("r", "readWidevinevKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
+        String16 key = cfg.readWidevinevKey();
+        std::cout << "readWidevinevKey: ";
+        if (key.size() == 0)
+            std::cout << "null";
+        else
+            std::cout << String8(key).c_str();
+        std::cout << '\n';
+        return OK;
+    });
+    add("i:", "installWidevineKey", kRequired, mAtCfgControl,
+        [](IAtCfgControl& cfg, const Input& in) {
+            if (in.missing()) return USAGE;
+            bool ret = cfg.installWidevineKey(String16(in.text));
+            std::cout << "installWidevineKey ret = " << ret << '\n';
+            return OK;
+        });
+    add("d", "deleteWidevineKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
+        bool ret = cfg.deleteWidevineKey();
+        std::cout << "deleteWidevineKey ret = " << ret << '\n';
+        return OK;
+    });
+    add("r", "readAttestationKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
+        String16 key = cfg.readAttestationKey();
+        std::cout << "readAttestationKey: " << String8(key).c_str() << '\n';
+        return OK;
+    });
+    add("k:", "installAttestationKey", kRequired, mAtCfgControl,
+        [](IAtCfgControl& cfg, const Input& in) {
+            if (in.missing()) return USAGE;
+            bool ret = cfg.installAttestationKey(String16(in.text));
+            std::cout << "installAttestationKey ret = " << ret << '\n';
+            return OK;
+        });
+    add("a", "deleteAttestationKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
+        bool ret = cfg.deleteAttestationKey();
+        std::cout << "deleteAttestationKey ret = " << ret << '\n';
+        return OK;
+    });
     return OK;
 }
 
