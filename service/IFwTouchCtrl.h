@@ -22,17 +22,21 @@ struct EntityFwTouch {
     bool needRebootWhenUpgraded = false;
 };
 
-// One touch driver. The fields behind the version are completed with the interface.
+// One touch driver.
 struct EntityFwTouchDriver {
     int touchModel = 0;
     int touchType = 0;
     int swTouchDriverType = 0;
     std::string touchDriverCurrentVersion;
     bool isSupportUsbUpgrade = false;
+    std::string usbUpgradeTouchDriverBinName;
 };
 
 class IFwTouchCtrl : public RefBase {
 public:
+    // Both fill a list that the caller hands in empty.
+    virtual void getFwTouchList(std::vector<EntityFwTouch>& list) = 0;
+    virtual void getFwTouchDriverInfoList(std::vector<EntityFwTouchDriver>& list) = 0;
 
 protected:
     ~IFwTouchCtrl() override = default;

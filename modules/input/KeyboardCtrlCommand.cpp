@@ -1,3 +1,9 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include <utils/String16.h>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +20,26 @@ std::string KeyboardCtrlCommand::getSimpleDescription() const {
 
 Status KeyboardCtrlCommand::registerAllOptions() {
     addHelp();
+    add("n:", "getKeyboardByName", kRequired, mKeyboardCtrl,
+        [](IKeyboardCtrl& keyboard, const Input& in) {
+            if (in.missing()) return USAGE;
+            int status = keyboard.getKeyboardByName(String16(in.text));
+            std::cout << "keyboard = " << in.text << " status = " << status << "\n";
+            return OK;
+        });
+    // vid,pid in hexadecimal, with or without 0x; echoed as typed.
+    add("i:", "getKeyboardByID", kRequired, mKeyboardCtrl,
+        [](IKeyboardCtrl& keyboard, const Input& in) {
+            if (in.missing()) return USAGE;
+            std::vector<std::string> field = in.fields(2);
+            int vid = 0;
+            int pid = 0;
+            if (!in.toInt(field[0], vid, 16) || !in.toInt(field[1], pid, 16)) return USAGE;
+            int status = keyboard.getKeyboardByID(vid, pid);
+            std::cout << "vid: " << field[0] << ",pid: " << field[1] << ",status: " << status
+                      << "\n";
+            return OK;
+        });
     return OK;
 }
 

@@ -1,3 +1,10 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include <utils/String16.h>
+#include <utils/String8.h>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +21,31 @@ std::string RemoteCtrlCommand::getSimpleDescription() const {
 
 Status RemoteCtrlCommand::registerAllOptions() {
     addHelp();
+    add("d", "disableRemoteCtrl", kNone, mRemoteCtrl, [](IRemoteCtrl& remote, const Input&) {
+        bool ret = remote.disableRemoteCtrl();
+        std::cout << "disableRemoteCtrl: " << ret << '\n';
+        return OK;
+    });
+    add("e", "enableRemoteCtrl", kNone, mRemoteCtrl, [](IRemoteCtrl& remote, const Input&) {
+        bool ret = remote.enableRemoteCtrl();
+        std::cout << "enableRemoteCtrl: " << ret << '\n';
+        return OK;
+    });
+    add("g:", "getParameter", kRequired, mRemoteCtrl, [](IRemoteCtrl& remote, const Input& in) {
+        String16 value = remote.getParameter(String16(in.text));
+        std::cout << "getParameter: " << in.text << "value: " << String8(value).c_str() << '\n';
+        return OK;
+    });
+    // Key and value go on as typed, empty or not.
+    add("s:", "setParameter", kRequired, mRemoteCtrl, [](IRemoteCtrl& remote, const Input& in) {
+        if (in.missing()) return USAGE;
+        std::vector<std::string> field = in.fields(2);
+        const std::string& key = field[0];
+        const std::string& value = field[1];
+        bool ret = remote.setParameter(String16(key.c_str()), String16(value.c_str()));
+        std::cout << "setParameter: (" << key << ": " << value << ", retval= " << ret << '\n';
+        return OK;
+    });
     return OK;
 }
 

@@ -1,3 +1,13 @@
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <utils/String16.h>
+#include <utils/String8.h>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -19,6 +29,123 @@ std::string TouchCtrlCommand::getSimpleDescription() const {
 
 Status TouchCtrlCommand::registerAllOptions() {
     addHelp();
+    add("m", "getHidMode", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
+        std::cout << "getHidMode= ";
+        String16 mode = touch.getHidMode();
+        std::cout << String8(mode).c_str() << '\n';
+        return OK;
+    });
+    add("g:", "getParameter", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
+        std::cout << "getParameter[" << in.text << "]= ";
+        String16 value = touch.getParameter(String16(in.text));
+        std::cout << String8(value).c_str() << '\n';
+        return OK;
+    });
+    add("p:", "setParameter", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
+        std::vector<std::string> field = in.fields(2);
+        const std::string& key = field[0];
+        const std::string& value = field[1];
+        if (key.empty() || value.empty()) {
+            std::cerr << "Key or Vaule is empty!" << '\n';
+            return USAGE;
+        }
+        touch.setParameter(String16(key.c_str()), String16(value.c_str()));
+        std::cout << "setParameter[" << key << "]= " << value << '\n';
+        return OK;
+    });
+    add("n:", "addNoTouchArea", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
+        if (in.missing()) return USAGE;
+        TouchPoint p1(0, 0, 0);
+        TouchPoint p2(0, 0, 0);
+        auto rect = std::make_unique<TouchRect>(p1, p2, 0);
+        // Rect id, then the two corners, x before y.
+        std::vector<std::string> field = in.fields(5);
+        const std::string& strRectid = field[0];
+        const std::string& strP1x = field[1];
+        const std::string& strP1y = field[2];
+        const std::string& strP2x = field[3];
+        const std::string& strP2y = field[4];
+        std::cout << "strRectid = " << strRectid << '\n';
+        std::cout << "strP1x = " << strP1x << '\n';
+        std::cout << "strP1y = " << strP1y << '\n';
+        std::cout << "strP2x = " << strP2x << '\n';
+        std::cout << "strP2y = " << strP2y << '\n';
+        rect->rect_id = atoi(strRectid.c_str());
+        rect->rect_p1.point_x = atoi(strP1x.c_str());
+        rect->rect_p1.point_y = atoi(strP1y.c_str());
+        rect->rect_p2.point_x = atoi(strP2x.c_str());
+        rect->rect_p2.point_y = atoi(strP2y.c_str());
+        std::cout << "rect->rect_id = " << rect->rect_id << '\n';
+        std::cout << "rect->rect_p1.point_x = " << rect->rect_p1.point_x << '\n';
+        std::cout << "rect->rect_p1.point_y = " << rect->rect_p1.point_y << '\n';
+        std::cout << "rect->rect_p2.point_x = " << rect->rect_p2.point_x << '\n';
+        std::cout << "rect->rect_p2.point_y = " << rect->rect_p2.point_y << '\n';
+        touch.addNoTouchArea(*rect);
+        return OK;
+    });
+    add("smo:", "setPressureMode", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
+        if (in.missing()) return USAGE;
+        int mode = atoi(in.text);
+        int ret = touch.setPressureMode(mode);
+        std::cout << "setPressureMode: " << mode << ", ret = " << ret << '\n';
+        return OK;
+    });
+    add("gmo", "getPressureMode", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
+        std::cout << "getPressureMode: " << touch.getPressureMode() << '\n';
+        return OK;
+    });
+    add("saf:", "setAndroidForbiddenState", kRequired, mTouchCtrl,
+        [](ITouchCtrl& touch, const Input& in) {
+            if (in.missing()) return USAGE;
+            int state = atoi(in.text);
+            int ret = touch.setAndroidForbiddenState(state);
+            std::cout << "setAndroidForbiddenState: " << state << ", ret = " << ret << '\n';
+            return OK;
+        });
+    add("gaf", "getAndroidForbiddenState", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
+        bool enabled = touch.getAndroidForbiddenState();
+        std::cout << "getAndroidForbiddenState: " << (enabled ? "1 (Enabled)" : "0 (Disabled)")
+                  << '\n';
+        return OK;
+    });
+    // The firmware versions come from the second interface.
+    add("l", "getFwTouchList", kNone, mFwTouchCtrl, [](IFwTouchCtrl& fwTouch, const Input&) {
+        std::vector<EntityFwTouch> list;
+        fwTouch.getFwTouchList(list);
+        for (size_t i = 0; i < list.size(); ++i)
+            std::cout << "touchFwVersion: " << list[i].touchCurrentVersion << '\n';
+        return OK;
+    });
+    add("s:", "setTouchSmothingFliter", kRequired, mTouchCtrl,
+        [](ITouchCtrl& touch, const Input& in) {
+            if (in.missing()) return USAGE;
+            int value = atoi(in.text);
+            bool ret = touch.setTouchSmothingFliter(value);
+            std::cout << "setTouchSmothingFliter: " << value << ", ret = " << (ret ? "ok" : "fail")
+                      << '\n';
+            return OK;
+        });
+    add("f", "getTouchSmothingFliter", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
+        std::cout << "getTouchSmothingFliter: " << touch.getTouchSmothingFliter() << '\n';
+        return OK;
+    });
+    add("tarm", "getTouchAreaRecognitionMethod", kNone, mTouchCtrl,
+        [](ITouchCtrl& touch, const Input&) {
+            std::cout << "getTouchAreaRecognitionMethod: " << touch.getTouchAreaRecognitionMethod()
+                      << '\n';
+            return OK;
+        });
+    add("gpn", "getpennum", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
+        std::cout << "getpennum: " << touch.getpennum() << '\n';
+        return OK;
+    });
+    add("spn", "setpennum", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
+        if (in.missing()) return USAGE;
+        int value = atoi(in.text);
+        bool ret = touch.setpennum(value);
+        std::cout << "setpennum: " << value << ", ret = " << (ret ? "ok" : "fail") << '\n';
+        return OK;
+    });
     return OK;
 }
 
