@@ -1,3 +1,6 @@
+#include <iostream>
+
+#include "framework/Scan.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +17,25 @@ std::string AiNoiseCtrlCommand::getSimpleDescription() const {
 
 Status AiNoiseCtrlCommand::registerAllOptions() {
     addHelp();
+    add("g", "getAiNoise", kNone, mAiNoiseCtrl, [](IAiNoiseCtrl& noise, const Input&) {
+        std::cout << "Current AI Noise val: " << noise.getAiNoise() << '\n';
+        return OK;
+    });
+    add("s:", "setAiNoise", kRequired, mAiNoiseCtrl, [](IAiNoiseCtrl& noise, const Input& in) {
+        float value = 0.0f;
+        if (!scanOne(in.text, value)) return USAGE;
+        // Both bounds are valid; a NaN fails neither test and goes through.
+        if (value < 0.0f || value > 1.0f) {
+            std::cerr << "Invalid argument format. Use: (0.0f-1.0)" << '\n';
+            return USAGE;
+        }
+        // The service answers false when the value was taken.
+        if (!noise.setAiNoise(value))
+            std::cout << "Successfully set Ai Noise set_fl= " << value << '\n';
+        else
+            std::cerr << "Failed to set Ai Noise " << '\n';
+        return OK;
+    });
     return OK;
 }
 

@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +15,24 @@ std::string MicrophoneCtrlCommand::getSimpleDescription() const {
     return "MicrophoneCtrl Module";
 }
 
+// This table has no help row: -h and --help are unknown options here.
 Status MicrophoneCtrlCommand::registerAllOptions() {
-    addHelp();
+    add("c:", "isBuildInMicEnabled", kRequired, mMicrophoneCtrl,
+        [](IMicrophoneCtrl& mic, const Input& in) {
+            int micType = 0;
+            if (!in.toInt(micType)) return USAGE;
+            std::cout << "isBuildInMicEnabled" << " ret= "
+                      << static_cast<int>(mic.isBuildInMicEnabled(micType)) << '\n';
+            return OK;
+        });
+    add("s:", "setBuildInMicEnabled", kRequired, mMicrophoneCtrl,
+        [](IMicrophoneCtrl& mic, const Input& in) {
+            std::vector<std::string> field = in.fields(2);
+            bool ok = mic.setBuildInMicEnabled(atoi(field[0].c_str()), atoi(field[1].c_str()) != 0);
+            std::cout << "setBuildInMicEnabled " << (ok ? "success" : "fail")
+                      << ", mic_type = " << field[0] << ", state = " << field[1] << '\n';
+            return OK;
+        });
     return OK;
 }
 

@@ -1,3 +1,6 @@
+#include <cstdio>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -6,7 +9,8 @@ namespace dumpbrel {
 SoundScreenAngleCtrlCommand::SoundScreenAngleCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SoundScreenAngleCtrl"),
-      mSoundScreenAngleCtrl(connect(&IBrelManager::getSoundScreenAngleCtrl, "getSoundScreenAngleCtrl() fail\n")) {}
+      mSoundScreenAngleCtrl(
+          connect(&IBrelManager::getSoundScreenAngleCtrl, "getSoundScreenAngleCtrl() fail\n")) {}
 
 std::string SoundScreenAngleCtrlCommand::getSimpleDescription() const {
     return "SoundScreenAngleCtrl Module";
@@ -14,6 +18,29 @@ std::string SoundScreenAngleCtrlCommand::getSimpleDescription() const {
 
 Status SoundScreenAngleCtrlCommand::registerAllOptions() {
     addHelp();
+    add("g", "getSoundScreenAngle", kNone, mSoundScreenAngleCtrl,
+        [](ISoundScreenAngleCtrl& screen, const Input&) {
+            SoundScreenAngle angle = screen.getSoundScreenAngle();
+            std::cout << "Current Sound Screen Angle: Start: " << angle.start_angle
+                      << ", End: " << angle.end_angle << '\n';
+            return OK;
+        });
+    add("s:", "setSoundScreenAngle", kRequired, mSoundScreenAngleCtrl,
+        [](ISoundScreenAngleCtrl& screen, const Input& in) {
+            int startAngle = 0;
+            int endAngle = 0;
+            if (in.missing() || sscanf(in.text, "%d,%d", &startAngle, &endAngle) != 2) {
+                std::cerr << "Invalid argument format. Use: start_angle,end_angle" << '\n';
+                return USAGE;
+            }
+            // The angles go as typed: no range, no order between them.
+            if (!screen.setSoundScreenAngle(startAngle, endAngle))
+                std::cout << "Successfully set sound screen angle to Start: " << startAngle
+                          << ", End: " << endAngle << '\n';
+            else
+                std::cerr << "Failed to set sound screen angle" << '\n';
+            return OK;
+        });
     return OK;
 }
 
