@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -12,8 +15,57 @@ std::string SourceCtrlCommand::getSimpleDescription() const {
     return "SourceCtrl Module";
 }
 
+// The letters: -g is getCurInputSource (the last row starting with g), -s is getHdmiStandbyEn
+// and takes no argument (its first place in the joined string is the second s of "gs");
+// getChannelList and setCurInputSource are reached by their long names only.
 Status SourceCtrlCommand::registerAllOptions() {
     addHelp();
+    add("g", "getChannelList", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
+        std::cout << "u4ChannelList = " << source.getChannelList() << '\n';
+        return OK;
+    });
+    add("gs", "getCurInputSource", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
+        std::cout << "getCurSocSource ID = " << source.getCurInputSource() << '\n';
+        return OK;
+    });
+    add("ss", "setCurInputSource", kRequired, mSourceCtrl,
+        [](ISourceCtrl& source, const Input& in) {
+            if (in.missing()) return USAGE;
+            int sourceId = atoi(in.text);
+            // Out of range: no word of its own, the option list shows the range.
+            if (sourceId < 0 || sourceId > 24) return USAGE;
+            std::cout << "setCurInputSource ret = " << source.setCurInputSource(sourceId) << '\n';
+            return OK;
+        },
+        "0-24:KSOL_SOURCE_ATV-KSOL_SOURCE_ANDROID,Define in customers/common/board/common/"
+        "kso_define");
+    add("a:", "setHdmiRxEdidVersion", kRequired, mSourceCtrl,
+        [](ISourceCtrl& source, const Input& in) {
+            if (in.missing()) return USAGE;
+            std::vector<std::string> field = in.fields(2);
+            std::cout << "Source = " << field[0] << " version:" << field[1] << '\n';
+            source.setHdmiRxEdidVersion(atoi(field[0].c_str()), atoi(field[1].c_str()));
+            return OK;
+        },
+        " exp:dumpbreal xxxx setHdmiRxEdidVersion \"x1 x2\"");
+    add("b:", "getHdmiRxEdidVersion", kRequired, mSourceCtrl,
+        [](ISourceCtrl& source, const Input& in) {
+            int sourceId = atoi(in.text);
+            std::cout << "sourceId :" << sourceId
+                      << "verison :" << source.getHdmiRxEdidVersion(sourceId) << '\n';
+            return OK;
+        });
+    add("s:", "getHdmiStandbyEn", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
+        std::cout << "getHdmiStandbyEn :" << source.getHdmiStandbyEn() << '\n';
+        return OK;
+    });
+    add("e:", "setHdmiStandbyEn", kRequired, mSourceCtrl,
+        [](ISourceCtrl& source, const Input& in) {
+            bool enable = atoi(in.text) != 0;
+            std::cout << "setHdmiStandbyEn :" << enable
+                      << " ret :" << source.setHdmiStandbyEn(enable) << '\n';
+            return OK;
+        });
     return OK;
 }
 
