@@ -1,7 +1,86 @@
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
 namespace dumpbrel {
+
+namespace {
+
+const char* failOrSuccess(int result) {
+    return result != 0 ? "fail" : "success";
+}
+
+// A switch set by a std::stoi number: `label`, the number, " ret= " and the result as 0 or 1.
+auto setSwitch(const char* label, bool (IAudioCtrl::*op)(int)) {
+    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
+        int enable = 0;
+        if (!in.toInt(enable)) return USAGE;
+        std::cout << label << enable << " ret= " << (audio.*op)(enable) << '\n';
+        return OK;
+    };
+}
+
+// A mode set by a std::stoi number: `label`, then fail or success by the result.
+auto setMode(const char* label, int (IAudioCtrl::*op)(int)) {
+    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
+        int mode = 0;
+        if (!in.toInt(mode)) return USAGE;
+        std::cout << label << failOrSuccess((audio.*op)(mode)) << '\n';
+        return OK;
+    };
+}
+
+// A value read for the std::stoi number of a module or channel: `label` and the result.
+auto getFor(const char* label, int (IAudioCtrl::*op)(int)) {
+    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
+        int which = 0;
+        if (!in.toInt(which)) return USAGE;
+        std::cout << label << (audio.*op)(which) << '\n';
+        return OK;
+    };
+}
+
+// A value set from the pair "<module or channel>,<value>", both read with atoi: `label`, fail
+// or success by the result, then `first` and the first field as typed, ", value = " and the
+// second field as typed.
+auto setValue(const char* label, const char* first, int (IAudioCtrl::*op)(int, int)) {
+    return [label, first, op](IAudioCtrl& audio, const Input& in) -> Status {
+        std::vector<std::string> f = in.fields(2);
+        int result = (audio.*op)(atoi(f[0].c_str()), atoi(f[1].c_str()));
+        std::cout << label << failOrSuccess(result) << first << f[0] << ", value = " << f[1]
+                  << '\n';
+        return OK;
+    };
+}
+
+// A status set per module from the pair "<module>,<status>", both read with atoi (the status
+// as a bool where the operation takes one): `label`, ", ret = " and the result, then both
+// fields as typed.
+template <typename S>
+auto setModuleStatus(const char* label, int (IAudioCtrl::*op)(int, S)) {
+    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
+        if (in.missing()) return USAGE;
+        std::vector<std::string> f = in.fields(2);
+        int module = atoi(f[0].c_str());
+        int status = atoi(f[1].c_str());
+        int result;
+        if constexpr (std::is_same_v<S, bool>)
+            result = (audio.*op)(module, status != 0);
+        else
+            result = (audio.*op)(module, status);
+        std::cout << label << ", ret = " << result << ", module = " << f[0]
+                  << ", status = " << f[1] << '\n';
+        return OK;
+    };
+}
+
+}  // namespace
 
 AudioCtrlCommand::AudioCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -13,7 +92,59 @@ std::string AudioCtrlCommand::getSimpleDescription() const {
 }
 
 Status AudioCtrlCommand::registerAllOptions() {
+    using Audio = IAudioCtrl;
     addHelp();
+    add("l:", "setAudioLineOutEnabled", kRequired, mAudioCtrl,
+        setSwitch("setAudioLineOutEnabled ", &Audio::setAudioLineOutEnabled));
+    add("p:", "setAudioPathInternalEnabled", kRequired, mAudioCtrl,
+        setSwitch("setAudioPathInternalEnabled ", &Audio::setAudioPathInternalEnabled));
+    add("s:", "setSPDIFOutEnabled", kRequired, mAudioCtrl,
+        setSwitch("setSPDIFOutEnabled ", &Audio::setSPDIFOutEnabled));
+    add("a", "isMicrophoneAvaliable", kNone, mAudioCtrl,
+        printTrueFalse("isMicrophoneAvaliable: ", &Audio::isMicrophoneAvaliable));
+    add("o", "getOtgMicState", kNone, mAudioCtrl,
+        printTrueFalse("getOtgMicState: ", &Audio::getOtgMicState));
+    add("t:", "setOtgMicState", kRequired, mAudioCtrl, [](Audio& audio, const Input& in) {
+        int state = 0;
+        if (!in.toInt(state)) return USAGE;
+        std::cout << "setOtgMicState state= " << state
+                  << " ret= " << audio.setOtgMicState(state != 0) << '\n';
+        return OK;
+    });
+    add("b", "getSubwooferOutProfile", kNone, mAudioCtrl,
+        printResult("getSubwooferOutProfile ret= ", &Audio::getSubwooferOutProfile));
+    add("o:", "setSubwooferOutProfile", kRequired, mAudioCtrl, [](Audio& audio, const Input& in) {
+        int profile = 0;
+        if (!in.toInt(profile)) return USAGE;
+        std::cout << "setSubwooferOutProfile ret= "
+                  << (audio.setSubwooferOutProfile(profile) != 0 ? 1 : 0) << '\n';
+        return OK;
+    });
+    add("c:", "getAudioGain", kRequired, mAudioCtrl,
+        getFor("getAudioGain ret= ", &Audio::getAudioGain));
+    add("d:", "setAudioGain", kRequired, mAudioCtrl,
+        setValue("setAudioGain ", ", module = ", &Audio::setAudioGain));
+    add("y:", "getAudioDelay", kRequired, mAudioCtrl,
+        getFor("getAudioDelay ret= ", &Audio::getAudioDelay));
+    add("e:", "setAudioDelay", kRequired, mAudioCtrl,
+        setValue("setAudioDelay ", ", channel = ", &Audio::setAudioDelay));
+    add("e:", "getAudioOutEnableStatus", kRequired, mAudioCtrl,
+        getFor("getAudioOutEnableStatus ret= ", &Audio::getAudioOutEnableStatus));
+    add("f:", "setAudioOutEnableStatus", kRequired, mAudioCtrl,
+        setModuleStatus("setAudioOutEnableStatus ", &Audio::setAudioOutEnableStatus));
+    add("z:", "setTrebleOneChannelMute", kRequired, mAudioCtrl,
+        setModuleStatus("setTrebleOneChannelMute ", &Audio::setTrebleOneChannelMute));
+    // The letter o takes no argument (its first row is getOtgMicState) but runs this row.
+    add("o:", "setBassOneChannelMute", kRequired, mAudioCtrl,
+        setModuleStatus("setBassOneChannelMute ", &Audio::setBassOneChannelMute));
+    add("x:", "getEQMode", kNone, mAudioCtrl, printResult("getEQMode ret= ", &Audio::getEQMode));
+    add("s:", "setEQMode", kRequired, mAudioCtrl, setMode("setEQMode ", &Audio::setEQMode));
+    add("x:", "getAudioOutMode", kNone, mAudioCtrl,
+        printResult("getAudioOutMode ret= ", &Audio::getAudioOutMode));
+    add("s:", "setAudioOutMode", kRequired, mAudioCtrl,
+        setMode("setAudioOutMode ", &Audio::setAudioOutMode));
+    add("getLineInConnectStatus:", "getLineInConnectStatus", kNone, mAudioCtrl,
+        printTrueFalse("getLineInConnectStatus: ", &Audio::getLineInConnectStatus));
     return OK;
 }
 
