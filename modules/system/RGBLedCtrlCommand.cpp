@@ -17,8 +17,8 @@ std::string RGBLedCtrlCommand::getSimpleDescription() const {
 
 Status RGBLedCtrlCommand::registerAllOptions() {
     addHelp();
-    // The indication setters echo the argument as typed; every spec with an argument has its
-    // colon, so the text is always there.
+    // The indication setters echo the argument as typed. Every short option that takes an
+    // argument has its colon, so the text is always there.
     add("s:", "setPowerStandbyState", kRequired, mRGBLedCtrl,
         [](IRGBLedCtrl& led, const Input& in) {
             led.setPowerStandbyState(atoi(in.text));
