@@ -1,0 +1,71 @@
+# The program's dynamic symbols: the log facility's four functions (T), its 32-byte key (R) and,
+# unless sanitizers add their own, no other function of the program. Library data (B, V) and
+# weak inline functions (W) that the linker lists for the shared libraries are left alone.
+#   cmake -DNM=<nm> -DBINARY=<dumpbrel> -DSANITIZE=<ON|OFF> -P exports.cmake
+
+cmake_minimum_required(VERSION 3.18)
+
+execute_process(COMMAND ${NM} -D -S --defined-only ${BINARY}
+  OUTPUT_VARIABLE listing RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "${NM} failed on ${BINARY}: ${status}")
+endif()
+
+# A sanitizer's runtime linked into the program exports functions of its own.
+if(listing MATCHES "[ \n]__(asan|ubsan|sanitizer)_")
+  set(SANITIZE ON)
+endif()
+
+set(functions BrelLog Brel_Log_Init setLogLevel getLogLevel)
+set(failures "")
+set(found "")
+string(REPLACE "\n" ";" lines "${listing}")
+foreach(line IN LISTS lines)
+  string(STRIP "${line}" line)
+  if(line STREQUAL "")
+    continue()
+  endif()
+  separate_arguments(fields UNIX_COMMAND "${line}")
+  list(LENGTH fields count)
+  if(count EQUAL 4)
+    list(GET fields 1 size)
+    list(GET fields 2 type)
+    list(GET fields 3 name)
+  elseif(count EQUAL 3)
+    set(size "")
+    list(GET fields 1 type)
+    list(GET fields 2 name)
+  else()
+    continue()
+  endif()
+
+  if(name IN_LIST functions)
+    if(NOT type STREQUAL "T")
+      list(APPEND failures "${name} is ${type}, not T")
+    endif()
+    list(APPEND found ${name})
+  elseif(name STREQUAL "PROP_BREL_SER_LOG_LEVEL")
+    if(NOT type STREQUAL "R")
+      list(APPEND failures "${name} is ${type}, not R")
+    endif()
+    math(EXPR bytes "0x${size}" OUTPUT_FORMAT DECIMAL)
+    if(NOT bytes EQUAL 32)
+      list(APPEND failures "${name} has ${bytes} bytes, not 32")
+    endif()
+    list(APPEND found ${name})
+  elseif(type STREQUAL "T" AND NOT SANITIZE)
+    list(APPEND failures "unexpected exported function ${name}")
+  endif()
+endforeach()
+
+foreach(name IN LISTS functions ITEMS PROP_BREL_SER_LOG_LEVEL)
+  if(NOT name IN_LIST found)
+    list(APPEND failures "${name} is not exported")
+  endif()
+endforeach()
+
+if(failures)
+  list(JOIN failures "\n  " text)
+  message(FATAL_ERROR "exports of ${BINARY}:\n  ${text}\n${listing}")
+endif()
+message(STATUS "exports of ${BINARY}: as expected")
