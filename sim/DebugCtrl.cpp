@@ -7,8 +7,15 @@ class SimDebugCtrl : public sim::Control<android::IDebugCtrl> {
 public:
     SimDebugCtrl() : Control("IDebugCtrl", kDefaults) {}
 
+    bool getSuperRootState() override { return call<bool>(__func__); }
+    bool setSuperRootState(const char* state) override { return call<bool>(__func__, state); }
+
 private:
-    static constexpr const char* kDefaults = R"({})";
+    // Super-root off; a change is accepted.
+    static constexpr const char* kDefaults = R"({
+        "getSuperRootState": false,
+        "setSuperRootState": true
+    })";
 };
 
 }  // namespace

@@ -1,3 +1,9 @@
+#include <iostream>
+#include <vector>
+
+#include <utils/String8.h>
+
+#include "framework/CommaList.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +20,37 @@ std::string PmsCtrlCommand::getSimpleDescription() const {
 
 Status PmsCtrlCommand::registerAllOptions() {
     addHelp();
+    // Both wake-up sources print the same label.
+    add("g", "getWakeupSrc", kNone, mPmsCtrl, [](IPmsCtrl& pms, const Input&) {
+        std::cout << "wakeup src: " << pms.getWakeupSrc() << "\n";
+        return OK;
+    });
+    add("u", "getWakeupSrcFromUboot", kNone, mPmsCtrl, [](IPmsCtrl& pms, const Input&) {
+        std::cout << "wakeup src: " << pms.getWakeupSrcFromUboot() << "\n";
+        return OK;
+    });
+    // first,second
+    add("r:", "readAssetData", kRequired, mPmsCtrl, [](IPmsCtrl& pms, const Input& in) {
+        std::vector<std::string> fields = in.fields(2);
+        int first = 0;
+        int second = 0;
+        if (!in.toInt(fields[0], first) || !in.toInt(fields[1], second)) return USAGE;
+        String16 data = pms.readAssetData(first, second);
+        std::cout << "readAssetData: " << String8(data).c_str() << "\n";
+        return OK;
+    });
+    // A comma list of input sources; the whole list is read before anything is sent.
+    add("w:", "setPmsWakeupSources", kRequired, mPmsCtrl, [](IPmsCtrl& pms, const Input& in) {
+        std::vector<_BrelEnumInputSourceId_> sources;
+        for (const std::string& field : commaList(in.text)) {
+            int source = 0;
+            if (!in.toInt(field, source)) return USAGE;
+            sources.push_back(static_cast<_BrelEnumInputSourceId_>(source));
+        }
+        bool result = pms.setPmsWakeupSources(sources);
+        std::cout << "setPmsWakeupSources result: " << trueFalse(result) << "\n";
+        return OK;
+    });
     return OK;
 }
 

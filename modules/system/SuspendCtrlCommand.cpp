@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <iostream>
+
 #include "modules/Modules.h"
 
 namespace android {
@@ -14,6 +17,23 @@ std::string SuspendCtrlCommand::getSimpleDescription() const {
 
 Status SuspendCtrlCommand::registerAllOptions() {
     addHelp();
+    add("1:", "setSuspendStatus", kRequired, mSuspendCtrl,
+        [](ISuspendCtrl& suspend, const Input& in) {
+            if (in.missing()) return USAGE;
+            // The number as typed is echoed; the service gets only whether it is 0.
+            int value = atoi(in.text);
+            int result = suspend.setSuspendStatus(value != 0);
+            std::cout << "setSuspendStatus= " << value << " ret= " << result << "\n";
+            return OK;
+        },
+        "1 suspend \n0 resume\n");
+    add("2", "getSuspendStatus", kNone, mSuspendCtrl,
+        [](ISuspendCtrl& suspend, const Input&) {
+            int suspended = suspend.getSuspendStatus();
+            std::cout << "getSuspendStatus= " << suspended << "\n";
+            return OK;
+        },
+        "true : suspend \nfalse : resume\n");
     return OK;
 }
 
