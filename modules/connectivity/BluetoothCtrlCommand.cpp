@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -17,10 +18,8 @@ std::string BluetoothCtrlCommand::getSimpleDescription() const {
 
 Status BluetoothCtrlCommand::registerAllOptions() {
     addHelp();
-    add("w", "isBleWakeup", kNone, mBluetoothCtrl, [](IBluetoothCtrl& bt, const Input&) {
-        std::cout << "isBleWakeup: " << bt.isBleWakeup() << "\n";
-        return OK;
-    });
+    add("w", "isBleWakeup", kNone, mBluetoothCtrl,
+        printResult("isBleWakeup: ", &IBluetoothCtrl::isBleWakeup));
     // The service gives no answer here: the line repeats the argument as typed.
     add("s:", "setBleWakeup", kRequired, mBluetoothCtrl, [](IBluetoothCtrl& bt, const Input& in) {
         bt.setBleWakeup(atoi(in.text) != 0);

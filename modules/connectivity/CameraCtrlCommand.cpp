@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -26,10 +27,8 @@ Status CameraCtrlCommand::registerAllOptions() {
                       << "\n";
             return OK;
         });
-    add("g", "getCameraEnable", kNone, mCameraCtrl, [](ICameraCtrl& camera, const Input&) {
-        std::cout << "getCameraEnable: " << trueFalse(camera.getCameraEnable()) << '\n';
-        return OK;
-    });
+    add("g", "getCameraEnable", kNone, mCameraCtrl,
+        printTrueFalse("getCameraEnable: ", &ICameraCtrl::getCameraEnable));
     add("s:", "setCameraEnable", kRequired, mCameraCtrl, [](ICameraCtrl& camera, const Input& in) {
         int state = 0;
         if (!in.toInt(state)) return USAGE;

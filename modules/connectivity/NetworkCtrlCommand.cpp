@@ -5,6 +5,7 @@
 #include <utils/String8.h>
 
 #include "framework/Flags.h"
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -55,10 +56,8 @@ Status NetworkCtrlCommand::registerAllOptions() {
         std::cout << "SetWOLEnable " << in.text << ", ret = " << ret << '\n';
         return OK;
     });
-    add("s:", "GetWOLEnable", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "GetWOLEnable ret = " << net.GetWOLEnable() << '\n';
-        return OK;
-    });
+    add("s:", "GetWOLEnable", kNone, mNetworkCtrl,
+        printResult("GetWOLEnable ret = ", &INetworkCtrl::GetWOLEnable));
     add("w:", "SetWOWEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
         bool enable = false;
         if (!toFlag(in, enable)) return USAGE;
@@ -66,14 +65,10 @@ Status NetworkCtrlCommand::registerAllOptions() {
         std::cout << "SetWOWEnable " << in.text << ", ret = " << ret << '\n';
         return OK;
     });
-    add("n:", "GetWOWEnable", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "GetWOWEnable ret = " << net.GetWOWEnable() << '\n';
-        return OK;
-    });
-    add("d:", "getWifiDongleStatus", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "getWifiDongleStatus: " << trueFalse(net.getWifiDongleStatus()) << '\n';
-        return OK;
-    });
+    add("n:", "GetWOWEnable", kNone, mNetworkCtrl,
+        printResult("GetWOWEnable ret = ", &INetworkCtrl::GetWOWEnable));
+    add("d:", "getWifiDongleStatus", kNone, mNetworkCtrl,
+        printTrueFalse("getWifiDongleStatus: ", &INetworkCtrl::getWifiDongleStatus));
     add("x:", "setMcuToControlMonitorNetwork", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
@@ -98,10 +93,8 @@ Status NetworkCtrlCommand::registerAllOptions() {
             std::cout << "setSharingDirection " << in.text << ", ret = " << ret << '\n';
             return OK;
         });
-    add("e", "getSharingDirection", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "getSharingDirection ret = " << net.getSharingDirection() << '\n';
-        return OK;
-    });
+    add("e", "getSharingDirection", kNone, mNetworkCtrl,
+        printResult("getSharingDirection ret = ", &INetworkCtrl::getSharingDirection));
     add("a:", "setAndroidToPcSharing", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
@@ -110,10 +103,8 @@ Status NetworkCtrlCommand::registerAllOptions() {
             std::cout << "setAndroidToPcSharing " << in.text << ", ret = " << ret << '\n';
             return OK;
         });
-    add("b", "getAndroidToPcSharing", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "getAndroidToPcSharing ret = " << net.getAndroidToPcSharing() << '\n';
-        return OK;
-    });
+    add("b", "getAndroidToPcSharing", kNone, mNetworkCtrl,
+        printResult("getAndroidToPcSharing ret = ", &INetworkCtrl::getAndroidToPcSharing));
     add("J:", "setHotspotSharing", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
@@ -123,10 +114,8 @@ Status NetworkCtrlCommand::registerAllOptions() {
             return OK;
         });
     // No blank before "ret" in this one line.
-    add("j", "getHotspotSharing", kNone, mNetworkCtrl, [](INetworkCtrl& net, const Input&) {
-        std::cout << "getHotspotSharingret = " << net.getHotspotSharing() << '\n';
-        return OK;
-    });
+    add("j", "getHotspotSharing", kNone, mNetworkCtrl,
+        printResult("getHotspotSharingret = ", &INetworkCtrl::getHotspotSharing));
     return OK;
 }
 

@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -17,22 +18,14 @@ std::string PcModuleCtrlCommand::getSimpleDescription() const {
 
 Status PcModuleCtrlCommand::registerAllOptions() {
     addHelp();
-    add("s", "getPcState", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
-        std::cout << "pc_state: " << pc.getPcState() << '\n';
-        return OK;
-    });
-    add("o", "setPcSwitchOn", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
-        std::cout << "ret: " << pc.setPcSwitchOn() << '\n';
-        return OK;
-    });
-    add("f", "setPcSwitchOff", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
-        std::cout << "ret: " << pc.setPcSwitchOff() << '\n';
-        return OK;
-    });
-    add("r", "setPcRecovery", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
-        std::cout << "ret: " << pc.setPcRecovery() << '\n';
-        return OK;
-    });
+    add("s", "getPcState", kNone, mPcModuleCtrl,
+        printResult("pc_state: ", &IPcModuleCtrl::getPcState));
+    add("o", "setPcSwitchOn", kNone, mPcModuleCtrl,
+        printResult("ret: ", &IPcModuleCtrl::setPcSwitchOn));
+    add("f", "setPcSwitchOff", kNone, mPcModuleCtrl,
+        printResult("ret: ", &IPcModuleCtrl::setPcSwitchOff));
+    add("r", "setPcRecovery", kNone, mPcModuleCtrl,
+        printResult("ret: ", &IPcModuleCtrl::setPcRecovery));
     // Bare numbers, one to a line; an empty list prints nothing.
     add("l", "getSupportPcBootModeList", kNone, mPcModuleCtrl,
         [](IPcModuleCtrl& pc, const Input&) {
@@ -47,10 +40,8 @@ Status PcModuleCtrlCommand::registerAllOptions() {
         std::cout << "setPcBootMode: " << mode << ", ret = " << ret << '\n';
         return OK;
     });
-    add("g", "getPcBootMode", kNone, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input&) {
-        std::cout << "getPcBootMode: " << pc.getPcBootMode() << '\n';
-        return OK;
-    });
+    add("g", "getPcBootMode", kNone, mPcModuleCtrl,
+        printResult("getPcBootMode: ", &IPcModuleCtrl::getPcBootMode));
     return OK;
 }
 

@@ -2,6 +2,7 @@
 
 #include <utils/String8.h>
 
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -43,18 +44,11 @@ Status Rs232CtrlCommand::registerAllOptions() {
             std::cout << "getSmartRs232EthMac: " << selector << " = " << mac.c_str() << '\n';
             return OK;
         });
-    add("t", "getATRs232TestResult", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
-        std::cout << "getATRs232TestResult: " << rs232.getATRs232TestResult() << '\n';
-        return OK;
-    });
-    add("", "getEmmcSize", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
-        std::cout << "getEmmcSize: " << String8(rs232.getEmmcSize()).c_str() << '\n';
-        return OK;
-    });
-    add("", "getRamSize", kNone, mRs232Ctrl, [](IRs232Ctrl& rs232, const Input&) {
-        std::cout << "getRamSize: " << String8(rs232.getRamSize()).c_str() << '\n';
-        return OK;
-    });
+    add("t", "getATRs232TestResult", kNone, mRs232Ctrl,
+        printResult("getATRs232TestResult: ", &IRs232Ctrl::getATRs232TestResult));
+    add("", "getEmmcSize", kNone, mRs232Ctrl,
+        printResult("getEmmcSize: ", &IRs232Ctrl::getEmmcSize));
+    add("", "getRamSize", kNone, mRs232Ctrl, printResult("getRamSize: ", &IRs232Ctrl::getRamSize));
     return OK;
 }
 

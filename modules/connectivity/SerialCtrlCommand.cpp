@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -30,14 +31,10 @@ Status SerialCtrlCommand::registerAllOptions() {
                       << ", Baudrate: " << field[2] << '\n';
             return OK;
         });
-    add("b", "getRS232Baudrate", kNone, mSerialCtrl, [](ISerialCtrl& serial, const Input&) {
-        std::cout << "RS232 Baudrate: " << serial.getRS232Baudrate() << '\n';
-        return OK;
-    });
-    add("p", "getRS232Port", kNone, mSerialCtrl, [](ISerialCtrl& serial, const Input&) {
-        std::cout << "RS232 port: " << serial.getRS232Port() << '\n';
-        return OK;
-    });
+    add("b", "getRS232Baudrate", kNone, mSerialCtrl,
+        printResult("RS232 Baudrate: ", &ISerialCtrl::getRS232Baudrate));
+    add("p", "getRS232Port", kNone, mSerialCtrl,
+        printResult("RS232 port: ", &ISerialCtrl::getRS232Port));
     add("setSerialDeviceId:", "setSerialDeviceId", kRequired, mSerialCtrl,
         [](ISerialCtrl& serial, const Input& in) {
             if (in.missing()) return USAGE;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "framework/CommaList.h"
+#include "framework/Getters.h"
 #include "modules/Modules.h"
 
 namespace android {
@@ -29,10 +30,8 @@ Status TxbCtrlCommand::registerAllOptions() {
                   << ", ret" << ret << '\n';
         return OK;
     });
-    add("g", "getTxbSensorMuteState", kNone, mTxbCtrl, [](ITxbCtrl& txb, const Input&) {
-        std::cout << "getTxbSensorMuteState: " << txb.getTxbSensorMuteState() << '\n';
-        return OK;
-    });
+    add("g", "getTxbSensorMuteState", kNone, mTxbCtrl,
+        printResult("getTxbSensorMuteState: ", &ITxbCtrl::getTxbSensorMuteState));
     // The values run together on one line. A count beyond the array prints the whole array.
     add("t", "getTxbSensorSelfTestState", kNone, mTxbCtrl, [](ITxbCtrl& txb, const Input&) {
         int values[kTxbSelfTestValues] = {};
