@@ -50,6 +50,9 @@ public:
     // The row whose handler runs now (null between handlers).
     const Option* runningOption() const { return mRunning; }
 
+    // The table as registered, for tools that walk every row.
+    const std::vector<Option>& getOptions() const { return mOptions; }
+
     // Writes the line for a row that was reached while its interface is missing.
     void reportAbsent() const;
 

@@ -12,8 +12,6 @@
 namespace android {
 namespace dumpbrel {
 
-namespace {
-
 // Every sub-service, in the order of the listing. All are built on every run.
 void registerModules(DumpBrel& dumpBrel) {
     dumpBrel.registerListCommand(std::make_unique<AnionCtrlCommand>(dumpBrel));
@@ -58,6 +56,8 @@ void registerModules(DumpBrel& dumpBrel) {
     dumpBrel.registerListCommand(std::make_unique<MicrophoneCtrlCommand>(dumpBrel));
     dumpBrel.registerListCommand(std::make_unique<DebugCtrlCommand>(dumpBrel));
 }
+
+namespace {
 
 bool mayRun(uid_t uid) {
     constexpr uid_t kRoot = 0;

@@ -1,0 +1,105 @@
+#include "Harness.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+#include "framework/Main.h"
+#include "sim/Panel.h"
+
+// Present in sanitizer runtimes only.
+extern "C" void __sanitizer_set_report_fd(void* fd) __attribute__((weak));
+
+namespace dumpbrel_fuzz {
+
+namespace {
+
+int gReportFd = 2;
+std::string gNeutralProfile;
+
+}  // namespace
+
+void setUp() {
+    static bool done = false;
+    if (done) return;
+    done = true;
+    int fd = fcntl(2, F_DUPFD_CLOEXEC, 10);
+    if (fd >= 0) gReportFd = fd;
+    if (__sanitizer_set_report_fd)
+        __sanitizer_set_report_fd(reinterpret_cast<void*>(static_cast<intptr_t>(gReportFd)));
+    int null = open("/dev/null", O_RDONLY);
+    if (null >= 0) {
+        dup2(null, 0);
+        if (null != 0) close(null);
+    }
+
+    char path[] = "/tmp/dumpbrel-fuzz-neutral-XXXXXX";
+    int profile = mkstemp(path);
+    if (profile < 0 || write(profile, "{}\n", 3) != 3) {
+        report("dumpbrel fuzz: cannot write a neutral profile in /tmp");
+        abort();
+    }
+    close(profile);
+    gNeutralProfile = path;
+    atexit([] { unlink(gNeutralProfile.c_str()); });
+}
+
+void useProfile(Profile profile) {
+    if (profile == Profile::kNeutral)
+        setenv("BREL_SIM_PANEL", gNeutralProfile.c_str(), 1);
+    else
+        unsetenv("BREL_SIM_PANEL");
+    unsetenv("BREL_SIM_ABSENT");
+    unsetenv("BREL_SIM_TRACE");
+    sim::Panel::reset();
+}
+
+void runTool(const std::vector<std::string>& words) {
+    std::vector<std::string> storage;
+    storage.reserve(words.size() + 1);
+    storage.push_back("dumpbrel");
+    storage.insert(storage.end(), words.begin(), words.end());
+    std::vector<char*> argv;
+    for (auto& word : storage) argv.push_back(word.data());
+    argv.push_back(nullptr);
+
+    int status = android::dumpbrel::dumpbrelMain(static_cast<int>(storage.size()), argv.data());
+    std::cout.flush();
+    fflush(stdout);
+    fflush(stderr);
+    if (status != 0) {
+        report("dumpbrel fuzz: the run ended with status %d", status);
+        abort();
+    }
+    if (!std::cout.good() || !std::cerr.good()) {
+        report("dumpbrel fuzz: a standard stream was left failed (something printed a null text?)");
+        abort();
+    }
+}
+
+void report(const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    vdprintf(gReportFd, format, args);
+    va_end(args);
+    dprintf(gReportFd, "\n");
+}
+
+void addFuzzerDefaults(int* argc, char*** argv) {
+    for (int i = 1; i < *argc; ++i)
+        if (strncmp((*argv)[i], "-close_fd_mask=", 15) == 0) return;
+    static std::vector<char*> extended;
+    static char mask[] = "-close_fd_mask=3";
+    extended.assign(*argv, *argv + *argc);
+    extended.insert(extended.begin() + 1, mask);
+    extended.push_back(nullptr);
+    *argc += 1;
+    *argv = extended.data();
+}
+
+}  // namespace dumpbrel_fuzz

@@ -1,0 +1,40 @@
+#pragma once
+
+// What both fuzz targets share: the panel they run against, the tool's entry run in-process,
+// and the checks that every input must pass besides the sanitizers' own.
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace dumpbrel_fuzz {
+
+enum class Profile {
+    kBuiltIn,  // the simulated panel's built-in profile
+    kNeutral,  // the profile "{}": every operation answers neutrally
+};
+
+// Once per process, before anything is silenced: keeps a descriptor on the real standard error
+// for reports, hands it to the sanitizers, and puts standard input on /dev/null.
+void setUp();
+
+// Makes the next dispatch read `profile` afresh, with no interface absent and no trace.
+void useProfile(Profile profile);
+
+// Runs the binary's entry on "dumpbrel" followed by `words`, exactly as main() would, and stops
+// the process with a report when the run leaves the tool in a state no run may leave it in:
+// an exit status other than 0, or a standard stream in a failed state.
+void runTool(const std::vector<std::string>& words);
+
+// One line on the real standard error.
+void report(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+// libFuzzer's flags as given, plus -close_fd_mask=3 unless the caller chose a mask: the tool's
+// own output goes to /dev/null while libFuzzer's and the sanitizers' reports stay visible.
+void addFuzzerDefaults(int* argc, char*** argv);
+
+}  // namespace dumpbrel_fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
