@@ -6,12 +6,13 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <map>
 #include <memory>
-#include <sstream>
 
+// The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h).
+#pragma GCC visibility push(hidden)
 #include <nlohmann/json.hpp>
+#pragma GCC visibility pop
 
 namespace sim {
 
@@ -37,6 +38,8 @@ struct Source {
 std::unique_ptr<Source> gFile;                  // BREL_SIM_PANEL, once read
 std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
 std::string gProblemSource = "built-in profile";
+const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
+bool gAbsentRead = false;
 
 Source parse(std::string name, const std::string& text) {
     Source source{std::move(name), nullptr};
@@ -56,17 +59,28 @@ Source parse(std::string name, const std::string& text) {
     return source;
 }
 
+// The whole file into `text`; false, with errno set, when it cannot be read to its end.
+bool readFile(const char* path, std::string& text) {
+    int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;
+    char buffer[4096];
+    ssize_t n;
+    while ((n = ::read(fd, buffer, sizeof buffer)) > 0) text.append(buffer, static_cast<size_t>(n));
+    int error = errno;
+    close(fd);
+    errno = error;
+    return n == 0;
+}
+
 const Source& fileSource(const char* path) {
     if (!gFile || gFile->name != path) {
-        std::ifstream in(path, std::ios::binary);
-        std::ostringstream text;
-        if (in) text << in.rdbuf();
-        if (!in || in.bad()) {
+        std::string text;
+        if (!readFile(path, text)) {
             fprintf(stderr, "dumpbrel: simulated panel: %s: cannot read: %s\n", path,
                     strerror(errno));
             gFile = std::make_unique<Source>(Source{path, nullptr});
         } else {
-            gFile = std::make_unique<Source>(parse(path, text.str()));
+            gFile = std::make_unique<Source>(parse(path, text));
         }
     }
     return *gFile;
@@ -159,7 +173,11 @@ void Panel::trace(const std::string& line) {
 }
 
 bool Panel::absent(const char* word) {
-    const char* list = getenv("BREL_SIM_ABSENT");
+    if (!gAbsentRead) {
+        gAbsent = getenv("BREL_SIM_ABSENT");
+        gAbsentRead = true;
+    }
+    const char* list = gAbsent;
     if (!list) return false;
     size_t length = strlen(word);
     for (const char* p = list;;) {
@@ -179,6 +197,7 @@ void Panel::problem(const std::string& key, const std::string& what) {
 void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
+    gAbsentRead = false;
 }
 
 std::string jsonString(std::string_view text) {

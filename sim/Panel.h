@@ -23,7 +23,9 @@
 #include <utils/String16.h>
 #include <utils/String8.h>
 
-namespace sim {
+// Hidden: the controls reach the mechanism inside the library, so the dynamic loader has none of
+// its symbols to bind when the program starts. Panel alone stays visible (tools reset it).
+namespace sim __attribute__((visibility("hidden"))) {
 
 // One value of the profile in force, or nothing. Reads only; the JSON stays inside Panel.cpp.
 class Node {
@@ -54,17 +56,17 @@ private:
 };
 
 // Shared state behind every control: the profile, the trace, the absence list.
-struct Panel {
+struct __attribute__((visibility("default"))) Panel {
     // The value scripted for iface.op, from BREL_SIM_PANEL when set, else from `defaults`,
     // the interface's part of the built-in profile. Each source is parsed when first asked.
     static Node lookup(const char* iface, const char* op, const char* defaults);
     // Appends one line to the BREL_SIM_TRACE file, if any, at once.
     static void trace(const std::string& line);
-    // Whether BREL_SIM_ABSENT names `word`.
+    // Whether BREL_SIM_ABSENT, as read at the first question, names `word`.
     static bool absent(const char* word);
     // One line on standard error: the profile, the key and what is wrong with its value.
     static void problem(const std::string& key, const std::string& what);
-    // Forgets the parsed profiles, so that the next lookup reads the environment again.
+    // Forgets the parsed profiles and the absence list, so that the environment is read again.
     static void reset();
 };
 
