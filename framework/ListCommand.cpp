@@ -114,29 +114,30 @@ Status ListCommand::parseArgs(const Arg& arg) {
 }
 
 void ListCommand::usage() const {
-    std::cout << "Options:" << '\n';
+    std::cout << "Options:\n";
+    // Each row is built first and inserted once: an insertion per piece costs more than the text.
+    std::string line;
     for (const auto& row : mOptions) {
+        line.clear();
         bool hasShort = firstByte(row.shortOption) != 0;
-        if (hasShort) std::cout << "-" << row.shortOption << row.getHelpMessageForArgument();
-        if (hasShort && !row.longOption.empty()) std::cout << ", ";
-        if (!row.longOption.empty())
-            std::cout << "--" << row.longOption << row.getHelpMessageForArgument();
-        std::cout << ": ";
-        if (row.help.empty()) {
-            std::cout << '\n';
-            continue;
-        }
+        const std::string& argument = row.getHelpMessageForArgument();
+        if (hasShort) line.append("-").append(row.shortOption).append(argument);
+        if (hasShort && !row.longOption.empty()) line += ", ";
+        if (!row.longOption.empty()) line.append("--").append(row.longOption).append(argument);
+        line += ": ";
+        if (row.help.empty()) line += '\n';
         // Pieces as std::getline gives them: a final newline adds no empty piece.
         std::string_view help = row.help;
         bool first = true;
         while (!help.empty()) {
             size_t end = help.find('\n');
             std::string_view piece = help.substr(0, end);
-            if (!first) std::cout << std::string(12, ' ');
-            std::cout << piece << '\n';
+            if (!first) line.append(12, ' ');
+            line.append(piece).append("\n");
             first = false;
             help = end == std::string_view::npos ? std::string_view() : help.substr(end + 1);
         }
+        std::cout << line;
     }
 }
 
