@@ -21,6 +21,16 @@ bool beginsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;
 }
 
+// One line of a listing, the bytes of print_with_color_newline. A listing is built whole and
+// written in one piece: one write, where a flush per line would cost two.
+void appendLine(std::string& listing, Readline::Color color, const std::string& text) {
+    listing += "\033[49;";
+    listing += std::to_string(static_cast<int>(color));
+    listing += 'm';
+    listing += text;
+    listing += "\033[0m\n";
+}
+
 }  // namespace
 
 Readline::Readline(const Vocabulary& commands) : mCommandOptions(commands) {
@@ -71,6 +81,11 @@ void Readline::put_cursor_offset(int offset) {
 
 void Readline::flush() {
     std::cout.flush();
+}
+
+void Readline::print_listing(const std::string& listing) {
+    std::cout << listing;
+    flush();
 }
 
 void Readline::print_with_color(Color color, const std::string& text) {
@@ -297,8 +312,9 @@ std::string Readline::handle_command_completion(const std::string& word, bool& n
         singleMatch = true;
     } else {
         needRedraw = true;
-        std::cout << '\n';
-        for (const auto& candidate : candidates) print_with_color_newline(COLOR_GREEN, candidate);
+        std::string listing = "\n";
+        for (const auto& candidate : candidates) appendLine(listing, COLOR_GREEN, candidate);
+        print_listing(listing);
     }
     return prefix.substr(word.size());
 }
@@ -324,20 +340,25 @@ std::string Readline::handle_option_completion(const std::string& command, const
         singleMatch = true;
     } else {
         needRedraw = true;
-        std::cout << '\n';
-        for (const auto& candidate : candidates) print_with_color_newline(COLOR_MAGENTA, candidate);
+        std::string listing = "\n";
+        for (const auto& candidate : candidates) appendLine(listing, COLOR_MAGENTA, candidate);
+        print_listing(listing);
     }
     return prefix.substr(word.size());
 }
 
 void Readline::print_all_commands() {
-    for (const auto& entry : mCommandOptions) print_with_color_newline(COLOR_GREEN, entry.first);
+    std::string listing;
+    for (const auto& entry : mCommandOptions) appendLine(listing, COLOR_GREEN, entry.first);
+    print_listing(listing);
 }
 
 void Readline::print_available_options(const std::string& command) {
     auto found = mCommandOptions.find(command);
     if (found == mCommandOptions.end()) return;
-    for (const auto& option : found->second) print_with_color_newline(COLOR_MAGENTA, option);
+    std::string listing;
+    for (const auto& option : found->second) appendLine(listing, COLOR_MAGENTA, option);
+    print_listing(listing);
 }
 
 }  // namespace dumpbrel

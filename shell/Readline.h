@@ -73,6 +73,8 @@ private:
     void put_clear_line(const std::string& prompt, const std::string& line);
     void put_cursor_offset(int offset);
     void flush();
+    // Lines built with appendLine (Readline.cpp), written as one piece.
+    void print_listing(const std::string& listing);
     // Rewrites the line and puts the terminal cursor where `cursor` is: one write.
     void redraw(const std::string& prompt, const std::string& line, size_t cursor);
 };
