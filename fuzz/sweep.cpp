@@ -9,9 +9,9 @@
 //     what was given,
 //   - with the 64 KiB word, sends the service that word whole or nothing of it: no call in the
 //     trace holds a cut piece of it.
-// One child runs the values of one option against one panel one after the other, as the prompt
-// runs lines, and marks the end of each run on standard error. When a run kills its child, the
-// runs behind it in the batch get a child of their own.
+// One child runs all values of one option against all panels one after the other, as the
+// prompt runs lines, and marks the end of each run on standard error. When a run kills its
+// child, the runs behind it in the batch get a child of their own.
 //
 //     argument_sweep [-j jobs] [-m sub-service]... [-v]
 
@@ -305,7 +305,7 @@ void Sweep::finishChild(Slot& slot, size_t index, int wstatus) {
     } else if (WIFSIGNALED(wstatus) || WEXITSTATUS(wstatus) != 0) {
         finding(slot.batch.front(),
                 WIFEXITED(wstatus) && WEXITSTATUS(wstatus) == 4
-                    ? "memory leaked in the runs of this option against this panel"
+                    ? "memory leaked in the runs of this option"
                     : "the process ended badly after its runs",
                 slot.errText);
     }
@@ -373,11 +373,10 @@ int Sweep::run() {
         for (const auto& row : module.rows) {
             if (row.longName.empty()) continue;
             ++options;
-            for (const auto& panel : mPanels) {
-                Batch batch;
+            Batch batch;
+            for (const auto& panel : mPanels)
                 for (const auto& value : mValues) batch.push_back({&module, &row, &value, &panel});
-                mQueue.push_back(std::move(batch));
-            }
+            mQueue.push_back(std::move(batch));
         }
 
     auto began = Clock::now();
