@@ -1,11 +1,12 @@
 // The option-table rules on small tables built here, run through the dispatcher in-process.
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "framework/DumpBrel.h"
+#include "Fixtures.h"
 #include "framework/ListCommand.h"
 #include "service/IAnionCtrl.h"
 
@@ -13,27 +14,45 @@ namespace android {
 namespace dumpbrel {
 namespace {
 
+using Seen = std::vector<std::string>;
+using Body = std::function<Status(const Input&, Seen&)>;
+
 struct Row {
     const char* shortOption;
     const char* longOption;
     int hasArg;
     const char* help = "";
     Status result = OK;
+    Body body = nullptr;  // null: the row records "longOption(argument)"
 };
 
-// A sub-service "T" whose rows record what their handlers were given.
+class FakeAnion : public IAnionCtrl {
+public:
+    int setAnionStatus(int) override { return 0; }
+};
+
+// A sub-service "T" whose rows record what they were given. Rows with a body run behind the
+// null-interface guard, on an interface that is there unless `absent`.
 class TableCommand : public ListCommand {
 public:
-    TableCommand(DumpBrel& parent, std::vector<Row> rows, std::vector<std::string>& calls)
-        : ListCommand(parent), mRows(std::move(rows)), mCalls(calls) {}
+    TableCommand(DumpBrel& parent, std::vector<Row> rows, Seen& seen, bool absent)
+        : ListCommand(parent), mRows(std::move(rows)), mSeen(seen) {
+        if (!absent) mAnion = new FakeAnion;
+    }
     std::string getName() const override { return "T"; }
     std::string getSimpleDescription() const override { return "T Module"; }
     Status registerAllOptions() override {
         for (const Row& row : mRows) {
+            if (row.body) {
+                add(row.shortOption, row.longOption, row.hasArg, mAnion,
+                    [this, row](IAnionCtrl&, const Input& in) { return row.body(in, mSeen); },
+                    row.help);
+                continue;
+            }
             addRow(row.shortOption, row.longOption, row.hasArg,
                    [this, row](ListCommand*, const char* arg) {
-                       mCalls.push_back(std::string(row.longOption) + "(" +
-                                        (arg ? arg : "null") + ")");
+                       mSeen.push_back(std::string(row.longOption) + "(" + (arg ? arg : "null") +
+                                       ")");
                        return row.result;
                    },
                    row.help);
@@ -43,30 +62,21 @@ public:
 
 private:
     std::vector<Row> mRows;
-    std::vector<std::string>& mCalls;
+    Seen& mSeen;
+    sp<IAnionCtrl> mAnion;
 };
 
-struct Outcome {
-    std::vector<std::string> calls;
-    std::string out;
-    std::string err;
-    Status status;
+struct Outcome : dumpbrel_test::Outcome {
+    Seen seen;
 };
 
-Outcome dispatch(const std::vector<Row>& rows, std::vector<std::string> words) {
+Outcome dispatch(const std::vector<Row>& rows, std::vector<std::string> words,
+                 bool absent = false) {
     Outcome run;
     DumpBrel dumpBrel;
-    dumpBrel.registerListCommand(std::make_unique<TableCommand>(dumpBrel, rows, run.calls));
-    words.insert(words.begin(), {"dumpbrel", "T"});
-    std::vector<char*> argv;
-    for (auto& w : words) argv.push_back(w.data());
-    argv.push_back(nullptr);
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    run.status = dumpBrel.main(Arg{static_cast<int>(words.size()), argv.data()});
-    fflush(stdout);
-    run.out = testing::internal::GetCapturedStdout();
-    run.err = testing::internal::GetCapturedStderr();
+    dumpBrel.registerListCommand(std::make_unique<TableCommand>(dumpBrel, rows, run.seen, absent));
+    words.insert(words.begin(), "T");
+    static_cast<dumpbrel_test::Outcome&>(run) = dumpbrel_test::dispatch(dumpBrel, words);
     return run;
 }
 
@@ -78,87 +88,73 @@ TEST(OptionForms, AllReachTheSameHandlerWithTheSameText) {
              {"-s", "5"}, {"-s5"}, {"--setAnionStatus", "5"}, {"--setAnionStatus=5"},
              {"--setAnion=5"}}) {
         Outcome run = dispatch(kAnion, words);
-        EXPECT_EQ(run.calls, std::vector<std::string>{"setAnionStatus(5)"}) << words[0];
+        EXPECT_EQ(run.seen, Seen{"setAnionStatus(5)"}) << words[0];
         EXPECT_EQ(run.status, OK);
-        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.out + run.err, "");
     }
 }
 
-TEST(OptionForms, HandlersRunInCommandLineOrderBeforeTheLeftoverWord) {
+TEST(OptionForms, HandlersRunInOrderBeforeTheLeftoverWordIsNamed) {
     Outcome run = dispatch(kAnion, {"-s", "1", "bogus", "-s", "2"});
-    EXPECT_EQ(run.calls, (std::vector<std::string>{"setAnionStatus(1)", "setAnionStatus(2)"}));
+    EXPECT_EQ(run.seen, (Seen{"setAnionStatus(1)", "setAnionStatus(2)"}));
     EXPECT_EQ(run.out, "unknown option: bogus\n" + kAnionList);
     EXPECT_EQ(run.status, USAGE);
 }
 
 TEST(HelpRow, StopsParsingAndShowsTheList) {
     Outcome first = dispatch(kAnion, {"-h", "-s", "1"});
-    EXPECT_EQ(first.calls, std::vector<std::string>{"help(null)"});
+    EXPECT_EQ(first.seen, Seen{"help(null)"});
     EXPECT_EQ(first.out, kAnionList);
     Outcome last = dispatch(kAnion, {"-s", "1", "-h"});
-    EXPECT_EQ(last.calls, (std::vector<std::string>{"setAnionStatus(1)", "help(null)"}));
+    EXPECT_EQ(last.seen, (Seen{"setAnionStatus(1)", "help(null)"}));
     EXPECT_EQ(last.out, kAnionList);
+    Outcome none = dispatch(kAnion, {});
+    EXPECT_TRUE(none.seen.empty());
+    EXPECT_EQ(none.out, kAnionList);
+    EXPECT_EQ(none.status, USAGE);
 }
 
-TEST(HelpRow, NoOptionAtAllShowsTheListOnly) {
-    Outcome run = dispatch(kAnion, {});
-    EXPECT_TRUE(run.calls.empty());
-    EXPECT_EQ(run.out, kAnionList);
-    EXPECT_EQ(run.status, USAGE);
-}
-
-TEST(SharedLetters, TheLastRowRunsAndTheFirstPlaceDecidesTheArgument) {
-    const std::vector<Row> rows = {
+// Which row a word reaches, and with what argument: (words, rows seen, start of the output).
+TEST(Letters, TheLastRowRunsTheFirstPlaceDecidesTheArgument) {
+    const std::vector<Row> shared = {
         {"f", "first", 1}, {"f:", "second", 1}, {"f", "third", 0}, {"f", "fourth", 0}};
-    Outcome run = dispatch(rows, {"-f", "x"});
-    EXPECT_EQ(run.calls, std::vector<std::string>{"fourth(null)"});
-    EXPECT_EQ(run.out.substr(0, 19), "unknown option: x\nO");
-    Outcome longForm = dispatch(rows, {"--second", "y"});
-    EXPECT_EQ(longForm.calls, std::vector<std::string>{"second(y)"});
-}
-
-TEST(SpecColons, DoubleColonIsOptionalAndLaterColonsAreNeverRead) {
-    const std::vector<Row> rows = {{"h", "help", 0, "", USAGE}, {"d:::::", "device", 1}};
-    EXPECT_EQ(dispatch(rows, {"-dVAL"}).calls, std::vector<std::string>{"device(VAL)"});
-    Outcome separate = dispatch(rows, {"-d", "VAL"});
-    EXPECT_EQ(separate.calls, std::vector<std::string>{"device(null)"});
-    EXPECT_EQ(separate.out.substr(0, 21), "unknown option: VAL\nO");
-}
-
-TEST(SpecColons, ColonAndHasArgDisagree) {
-    const std::vector<Row> rows = {
-        {"h", "help", 0, "", USAGE}, {"x:", "getEQMode", 0}, {"y", "name", 1}};
-    EXPECT_EQ(dispatch(rows, {"-x", "5"}).calls, std::vector<std::string>{"getEQMode(5)"});
-    EXPECT_EQ(dispatch(rows, {"--getEQMode"}).calls, std::vector<std::string>{"getEQMode(null)"});
-    EXPECT_EQ(dispatch(rows, {"--name", "5"}).calls, std::vector<std::string>{"name(5)"});
-    Outcome shortY = dispatch(rows, {"-y", "5"});
-    EXPECT_EQ(shortY.calls, std::vector<std::string>{"name(null)"});
-    EXPECT_EQ(shortY.out.substr(0, 19), "unknown option: 5\nO");
-    Outcome argToNone = dispatch(rows, {"--getEQMode=3"});
-    EXPECT_TRUE(argToNone.calls.empty());
-    EXPECT_EQ(argToNone.out.substr(0, 31), "unknown option: --getEQMode=3\nO");
-    EXPECT_NE(argToNone.err, "");
-}
-
-TEST(MultiLetterSpecs, EveryLetterPassesButOnlyTheFirstOwnsARow) {
-    const std::vector<Row> rows = {{"h", "help", 0, "", USAGE}, {"reset", "reset", 0},
-                                   {"getLineInConnectStatus:", "getLineInConnectStatus", 0}};
-    EXPECT_EQ(dispatch(rows, {"-r"}).calls, std::vector<std::string>{"reset(null)"});
-    Outcome t = dispatch(rows, {"-t"});
-    EXPECT_TRUE(t.calls.empty());
-    EXPECT_EQ(t.out.substr(0, 19), "unknown option: -t\n");
-    EXPECT_EQ(t.err, "");  // the library accepted the letter
-    EXPECT_EQ(dispatch(rows, {"-g"}).calls, std::vector<std::string>{"getLineInConnectStatus(null)"});
-    // The colon belongs to the final s, which stood earlier without one: s takes no argument.
-    EXPECT_EQ(dispatch(rows, {"-s", "x"}).out.substr(0, 19), "unknown option: -s\n");
+    const std::vector<Row> colons = {{"h", "help", 0, "", USAGE}, {"d:::::", "device", 1},
+                                     {"x:", "getEQMode", 0}, {"y", "name", 1}};
+    const std::vector<Row> words = {{"h", "help", 0, "", USAGE}, {"reset", "reset", 0},
+                                    {"getLineInConnectStatus:", "getLineInConnectStatus", 0}};
+    struct {
+        const std::vector<Row>& rows;
+        std::vector<std::string> words;
+        Seen seen;
+        std::string out;
+    } cases[] = {
+        {shared, {"-f", "x"}, {"fourth(null)"}, "unknown option: x\nO"},
+        {shared, {"--second", "y"}, {"second(y)"}, ""},
+        {colons, {"-dVAL"}, {"device(VAL)"}, ""},  // two colons: optional, the rest unread
+        {colons, {"-d", "VAL"}, {"device(null)"}, "unknown option: VAL\nO"},
+        {colons, {"-x", "5"}, {"getEQMode(5)"}, ""},  // the colon and hasArg may disagree
+        {colons, {"--getEQMode"}, {"getEQMode(null)"}, ""},
+        {colons, {"--name", "5"}, {"name(5)"}, ""},
+        {colons, {"-y", "5"}, {"name(null)"}, "unknown option: 5\nO"},
+        {colons, {"--getEQMode=3"}, {}, "unknown option: --getEQMode=3\nO"},
+        {words, {"-r"}, {"reset(null)"}, ""},  // every letter passes, the first owns the row
+        {words, {"-t"}, {}, "unknown option: -t\nO"},
+        {words, {"-g"}, {"getLineInConnectStatus(null)"}, ""},
+        {words, {"-s", "x"}, {}, "unknown option: -s\nO"},  // s stood first without a colon
+    };
+    for (const auto& c : cases) {
+        Outcome run = dispatch(c.rows, c.words);
+        EXPECT_EQ(run.seen, c.seen) << c.words[0];
+        EXPECT_EQ(c.out.empty() ? run.out : run.out.substr(0, c.out.size()), c.out) << c.words[0];
+    }
 }
 
 TEST(Errors, LibraryDiagnosticsThenTheWordBeforeTheCluster) {
     Outcome missing = dispatch(kAnion, {"-s"});
     EXPECT_EQ(missing.out, "unknown option: -s\n" + kAnionList);
     EXPECT_EQ(missing.err, "dumpbrel: option requires an argument -- 's'\n");
-    Outcome colon = dispatch(kAnion, {"-:"});
-    EXPECT_EQ(colon.out.substr(0, 19), "unknown option: -:\n");
+    EXPECT_EQ(dispatch(kAnion, {"-:"}).out.substr(0, 19), "unknown option: -:\n");
+    EXPECT_EQ(dispatch({{"r", "reset", 0}}, {"-t"}).err, "dumpbrel: invalid option -- 't'\n");
     // Inside a cluster the scanner has not moved on: the word before the cluster is named.
     Outcome cluster = dispatch({{"h", "help", 0}, {"s:", "set", 1}}, {"-s", "1", "-xh"});
     EXPECT_EQ(cluster.out.substr(0, 18), "unknown option: 1\n");
@@ -166,136 +162,115 @@ TEST(Errors, LibraryDiagnosticsThenTheWordBeforeTheCluster) {
 }
 
 TEST(Errors, ANonZeroHandlerStopsEverythingBehindIt) {
-    const std::vector<Row> rows = {{"a", "stop", 0, "", 7}, {"b", "after", 0}};
-    Outcome run = dispatch(rows, {"-a", "-b"});
-    EXPECT_EQ(run.calls, std::vector<std::string>{"stop(null)"});
+    Outcome run = dispatch({{"a", "stop", 0, "", 7}, {"b", "after", 0}}, {"-a", "-b"});
+    EXPECT_EQ(run.seen, Seen{"stop(null)"});
     EXPECT_EQ(run.status, 7);
 }
 
 TEST(Scanner, ADispatchStoppedInsideAClusterLeavesTheNextOneClean) {
     const std::vector<Row> rows = {{"h", "help", 0, "", USAGE}, {"s", "set", 0}};
-    Outcome stopped = dispatch(rows, {"-hs"});
-    EXPECT_EQ(stopped.calls, std::vector<std::string>{"help(null)"});
+    EXPECT_EQ(dispatch(rows, {"-hs"}).seen, Seen{"help(null)"});
     Outcome next = dispatch(rows, {"-s"});
-    EXPECT_EQ(next.calls, std::vector<std::string>{"set(null)"});
+    EXPECT_EQ(next.seen, Seen{"set(null)"});
     EXPECT_EQ(next.out, "");
 }
 
 TEST(Usage, LayoutOfEveryKindOfRow) {
     const std::vector<Row> rows = {
-        {"h", "help", 0, "", USAGE},
-        {"a", "aa", 0, "\nfirst\nsecond\n"},
-        {"b:", "bb", 1, "one\ntwo"},
-        {"", "cc", 2},
-        {"s", "", 0, "x"},
+        {"h", "help", 0, "", USAGE}, {"a", "aa", 0, "\nfirst\nsecond\n"},
+        {"b:", "bb", 1, "one\ntwo"}, {"", "cc", 2}, {"s", "", 0, "x"},
     };
-    Outcome run = dispatch(rows, {"--help"});
-    EXPECT_EQ(run.out,
-              "Options:\n"
-              "-h, --help: \n"
-              "-a, --aa: \n"
-              "            first\n"
-              "            second\n"
-              "-b:=<arg>, --bb=<arg>: one\n"
-              "            two\n"
-              "--cc[=<arg>]: \n"
-              "-s: x\n");
+    EXPECT_EQ(dispatch(rows, {"--help"}).out,
+              "Options:\n-h, --help: \n-a, --aa: \n            first\n            second\n"
+              "-b:=<arg>, --bb=<arg>: one\n            two\n--cc[=<arg>]: \n-s: x\n");
 }
 
 TEST(Dispatcher, LongOptionsForCompletionKeepTheirDashesAndOrder) {
     DumpBrel dumpBrel;
-    std::vector<std::string> calls;
-    dumpBrel.registerListCommand(std::make_unique<TableCommand>(dumpBrel, kAnion, calls));
-    auto commands = dumpBrel.getModuleCommands();
-    EXPECT_EQ(commands.at("T"), (std::vector<std::string>{"--help", "--setAnionStatus"}));
+    Seen seen;
+    dumpBrel.registerListCommand(std::make_unique<TableCommand>(dumpBrel, kAnion, seen, false));
+    EXPECT_EQ(dumpBrel.getModuleCommands().at("T"), (Seen{"--help", "--setAnionStatus"}));
 }
 
-// A row that needs the service goes through the guard when the interface is missing.
-class GuardedCommand : public ListCommand {
-public:
-    GuardedCommand(DumpBrel& parent, std::vector<std::string>& seen)
-        : ListCommand(parent), mSeen(seen) {}
-    std::string getName() const override { return "G"; }
-    std::string getSimpleDescription() const override { return ""; }
-    Status registerAllOptions() override {
-        add("s:", "setAnionStatus", kRequired, mAnionCtrl, [](IAnionCtrl&, const Input&) {
-            return OK;
-        });
-        add("n:", "number", kRequired, mSelf, [this](IAnionCtrl&, const Input& in) {
-            int value = 0;
-            if (!in.toInt(std::string(in.text), value)) return USAGE;
-            mSeen.push_back(std::to_string(value));
-            std::vector<std::string> f = in.fields(3);
-            mSeen.push_back(f[0] + "|" + f[1] + "|" + f[2]);
-            return OK;
-        });
-        return OK;
-    }
-    sp<IAnionCtrl> mAnionCtrl;  // never filled
-    sp<IAnionCtrl> mSelf;
+// Rows that read numbers and fields, behind the guard.
+Status number(const Input& in, Seen& seen) {
+    int value = 0;
+    if (!in.toInt(value)) return USAGE;
+    seen.push_back(std::to_string(value));
+    return OK;
+}
+Status hexField(const Input& in, Seen& seen) {
+    unsigned long value = 0;
+    if (!in.toULong(in.fields(1)[0], value, 16)) return USAGE;
+    seen.push_back(std::to_string(value));
+    return OK;
+}
+Status fields(const Input& in, Seen& seen) {
+    std::vector<std::string> f = in.fields(3);
+    seen.push_back(f[0] + "|" + f[1] + "|" + f[2]);
+    return OK;
+}
+const std::vector<Row> kNumbers = {{"h", "help", 0, "", USAGE},
+                                   {"n:", "number", 1, "", OK, number},
+                                   {"u:", "unsigned", 1, "", OK, hexField},
+                                   {"f:", "fields", 1, "", OK, fields}};
 
-private:
-    std::vector<std::string>& mSeen;
-};
-
-class FakeAnion : public IAnionCtrl {
-public:
-    int setAnionStatus(int) override { return 0; }
-};
-
-Outcome dispatchGuarded(std::vector<std::string> words, std::vector<std::string>& seen) {
-    Outcome run;
-    DumpBrel dumpBrel;
-    auto command = std::make_unique<GuardedCommand>(dumpBrel, seen);
-    command->mSelf = new FakeAnion;
-    dumpBrel.registerListCommand(std::move(command));
-    words.insert(words.begin(), {"dumpbrel", "G"});
-    std::vector<char*> argv;
-    for (auto& w : words) argv.push_back(w.data());
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    run.status = dumpBrel.main(Arg{static_cast<int>(words.size()), argv.data()});
-    fflush(stdout);
-    run.out = testing::internal::GetCapturedStdout();
-    run.err = testing::internal::GetCapturedStderr();
-    return run;
+TEST(Guard, AMissingInterfaceIsOneLineNoCallAndParsingGoesOn) {
+    Outcome run = dispatch(kNumbers, {"-n", "4", "--fields", "x", "-h"}, true);
+    EXPECT_EQ(run.seen, Seen{"help(null)"});
+    EXPECT_EQ(run.err,
+              "T --number: service interface not available, not called\n"
+              "T --fields: service interface not available, not called\n");
+    EXPECT_EQ(run.out, "Options:\n-h, --help: \n-n:=<arg>, --number=<arg>: \n"
+                       "-u:=<arg>, --unsigned=<arg>: \n-f:=<arg>, --fields=<arg>: \n");
 }
 
-TEST(Guard, AMissingInterfaceIsReportedOnceAndParsingGoesOn) {
-    std::vector<std::string> seen;
-    Outcome run = dispatchGuarded({"-s", "1", "-n", "4"}, seen);
-    EXPECT_EQ(run.err, "G --setAnionStatus: service interface not available, not called\n");
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(seen, (std::vector<std::string>{"4", "4||"}));
-}
-
-TEST(Conversions, TextStoiCannotReadIsRefusedWithOneLine) {
-    struct Case {
-        const char* text;
-        const char* seen;  // null: refused
-    } cases[] = {{" 7x", "7"}, {"-4", "-4"}, {"12x,b,c", "12"}, {"abc", nullptr},
-                 {"", nullptr}, {"2147483648", nullptr}, {"-2147483649", nullptr}};
+// (words, what the row read; empty: refused with the line that follows).
+TEST(Conversions, WhatStoiAndStoulReadAndTheOneLineForWhatTheyCannot) {
+    const std::string high = [] {
+        std::string bytes;
+        for (int b = 0x80; b <= 0xff; ++b) bytes += static_cast<char>(b);
+        return bytes;
+    }();
+    struct {
+        std::vector<std::string> words;
+        std::string seen, err;
+    } cases[] = {
+        {{"-n", " 7x"}, "7", ""},
+        {{"-n", "-4"}, "-4", ""},
+        {{"-n", "12x,b"}, "12", ""},
+        {{"-n", "12\xb2"}, "12", ""},
+        {{"-n", "2147483647"}, "2147483647", ""},
+        {{"-n", "abc"}, "", "T --number: not a number: \"abc\"\n"},
+        {{"-n", ""}, "", "T --number: not a number: \"\"\n"},
+        {{"-n", "2147483648"}, "", "T --number: number out of range: \"2147483648\"\n"},
+        {{"-n", "-2147483649"}, "", "T --number: number out of range: \"-2147483649\"\n"},
+        {{"-n", "a\"\\\n\x7f"}, "", "T --number: not a number: \"a\\x22\\x5c\\x0a\\x7f\"\n"},
+        {{"--number", high}, "", "T --number: not a number: \"" + high + "\"\n"},
+        {{"-u", "ff,1"}, "255", ""},
+        {{"-u", "-1"}, "18446744073709551615", ""},
+        {{"-u", "\xff" "1,2"}, "", "T --unsigned: not a number: \"\xff" "1\"\n"},
+        {{"-u", "1ffffffffffffffff"}, "", "T --unsigned: number out of range: \"1ffffffffffffffff\"\n"},
+        {{"-f", "1,,x,y"}, "1||x", ""},
+        {{"-f", "\xe9,\x80\xff,\xa0"}, "\xe9|\x80\xff|\xa0", ""},
+        {{"-f", ""}, "||", ""},
+    };
     for (const auto& c : cases) {
-        std::vector<std::string> seen;
-        Outcome run = dispatchGuarded({"-n", c.text}, seen);
-        if (c.seen) {
-            ASSERT_FALSE(seen.empty()) << c.text;
-            EXPECT_EQ(seen[0], c.seen);
-            EXPECT_EQ(run.err, "");
-        } else {
-            EXPECT_TRUE(seen.empty()) << c.text;
-            EXPECT_EQ(run.status, USAGE);
-            EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
-            EXPECT_NE(run.err.find("G --number: "), std::string::npos) << run.err;
-            EXPECT_NE(run.err.find(std::string("\"") + c.text + "\""), std::string::npos);
-        }
+        Outcome run = dispatch(kNumbers, c.words);
+        EXPECT_EQ(run.seen, c.seen.empty() ? Seen{} : Seen{c.seen}) << c.words[1];
+        EXPECT_EQ(run.err, c.err) << c.words[1];
+        EXPECT_EQ(run.status, c.seen.empty() ? USAGE : OK) << c.words[1];
     }
 }
 
-TEST(Conversions, CommaFieldsStopAtTheirCountAndStayEmptyWhenMissing) {
-    std::vector<std::string> seen;
-    dispatchGuarded({"-n", "1,,x,y"}, seen);
-    EXPECT_EQ(seen.at(1), "1||x");
+TEST(HighBytes, AsOptionLettersTheyAreUnknownAndRunNothing) {
+    for (const char* word : {"-\xe9", "-\xff", "-\x80"}) {
+        Outcome run = dispatch(kNumbers, {word});
+        EXPECT_EQ(run.status, USAGE) << word;
+        EXPECT_TRUE(run.seen.empty()) << word;
+        EXPECT_EQ(run.out.rfind(std::string("unknown option: ") + word + "\nOptions:\n", 0), 0u);
+    }
+    EXPECT_EQ(dispatch(kNumbers, {"-n1\xff"}).seen, Seen{"1"});
 }
 
 }  // namespace

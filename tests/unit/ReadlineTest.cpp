@@ -55,15 +55,12 @@ std::string options(const std::string& name) {
     return s;
 }
 
-struct Session {
-    std::string output;
-    std::vector<std::string> lines;
-};
-
-// Types `keys` at a fresh editor until the input ends.
-Session type(const std::string& keys) {
+// Runs `body` with descriptor 0 reading `keys` and standard output captured; returns the output.
+template <typename Body>
+std::string withKeys(const std::string& keys, Body body) {
     int in[2];
     EXPECT_EQ(pipe(in), 0);
+    fcntl(in[1], F_SETPIPE_SZ, 1 << 16);
     EXPECT_EQ(write(in[1], keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     close(in[1]);
     FILE* captured = tmpfile();
@@ -72,24 +69,35 @@ Session type(const std::string& keys) {
     dup2(in[0], 0);
     dup2(fileno(captured), 1);
     close(in[0]);
-
-    Session session;
-    {
-        Readline readline(kVocabulary);
-        for (;;) {
-            std::string line = readline.readline(kPrompt);
-            if (readline.end_of_input()) break;
-            session.lines.push_back(line);
-        }
-    }
+    body();
     std::cout.flush();
     dup2(savedIn, 0);
     dup2(savedOut, 1);
     close(savedIn);
     close(savedOut);
     rewind(captured);
-    for (int c; (c = fgetc(captured)) != EOF;) session.output += static_cast<char>(c);
+    std::string output;
+    for (int c; (c = fgetc(captured)) != EOF;) output += static_cast<char>(c);
     fclose(captured);
+    return output;
+}
+
+struct Session {
+    std::string output;
+    std::vector<std::string> lines;
+};
+
+// Types `keys` at a fresh editor until the input ends.
+Session type(const std::string& keys, const Readline::Vocabulary& vocabulary = kVocabulary) {
+    Session session;
+    session.output = withKeys(keys, [&] {
+        Readline readline(vocabulary);
+        for (;;) {
+            std::string line = readline.readline(kPrompt);
+            if (readline.end_of_input()) break;
+            session.lines.push_back(line);
+        }
+    });
     return session;
 }
 
@@ -211,5 +219,43 @@ INSTANTIATE_TEST_SUITE_P(
                 P + R("P") + R("PQ") + R("PQC") + R("PQCt") + R("PQCtr") + R("PQCtrl") + "\n" +
                     options("PQCtrl") + R("PQCtrl") + "\n" + END,
                 {"PQCtrl"}}));
+
+// Bytes 0x80 to 0xFF: `char` is signed on x86-64 and unsigned on arm64; both must behave alike.
+std::string highBytes() {
+    std::string bytes;
+    for (int b = 0x80; b <= 0xff; ++b) bytes += static_cast<char>(b);
+    return bytes;
+}
+
+TEST(HighBytes, EveryByteIsAKeyOfItsOwnValue) {
+    std::string all;
+    for (int b = 0; b <= 0xff; ++b) all += static_cast<char>(b);
+    std::vector<int> keys;
+    withKeys(all, [&] {
+        Readline readline({});
+        for (int key; (key = readline.read_key()) != Readline::kEndOfInput;) keys.push_back(key);
+    });
+    ASSERT_EQ(keys.size(), 256u);
+    for (int b = 0; b <= 0xff; ++b) EXPECT_EQ(keys[b], b);
+}
+
+TEST(HighBytes, InsertedErasedAndWalkedOverOneByteAtATime) {
+    const std::string high = highBytes();
+    Session s = type(high + "\n" + high + std::string(high.size() - 1, '\x7f') + "\n" +
+                     "\xc3\xa9\xff" + LEFT + LEFT + "x\n");
+    EXPECT_EQ(s.lines, (std::vector<std::string>{high, "\x80", "\xc3x\xa9\xff"}));
+}
+
+TEST(HighBytes, NoneSplitsWordsAndCompletionComparesThemExactly) {
+    const std::string high = highBytes();
+    EXPECT_EQ(Readline::split_line("a\xa0z \x85q\t" + high),
+              (std::vector<std::string>{"a\xa0z", "\x85q", high}));
+    EXPECT_EQ(Readline::countWords(high), 1);
+    EXPECT_EQ(Readline::find_longest_common_prefix({"\xc3\xa9t\xc3\xa9", "\xc3\xa8re"}), "\xc3");
+    EXPECT_EQ(Readline::find_longest_common_prefix({"\xff\x80", "\xff\x80\x81"}), "\xff\x80");
+    Session s = type("\xc3\t --\xff\t\n", {{"\xc3\xa9t\xc3\xa9", {"--\xff\x80one", "--help"}},
+                                          {"Anion", {"--help"}}});
+    EXPECT_EQ(s.lines, std::vector<std::string>{"\xc3\xa9t\xc3\xa9 --\xff\x80one"});
+}
 
 }  // namespace

@@ -1,0 +1,109 @@
+#include "Fixtures.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace dumpbrel_test {
+
+namespace {
+
+std::string readFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// The command line that starts the binary with word 0 "dumpbrel"; under qemu through its -0.
+std::vector<std::string> commandLine(const std::vector<std::string>& args) {
+    std::istringstream emulator(DUMPBREL_EMULATOR);
+    std::vector<std::string> words;
+    for (std::string w; emulator >> w;) words.push_back(w);
+    if (!words.empty()) words.insert(words.end(), {"-0", "dumpbrel"});
+    words.push_back(DUMPBREL_BIN);
+    words.insert(words.end(), args.begin(), args.end());
+    return words;
+}
+
+void redirect(int fd, const std::string& path, int flags) {
+    int opened = open(path.c_str(), flags, 0666);
+    dup2(opened, fd);
+    close(opened);
+}
+
+[[noreturn]] void execWords(std::vector<std::string> words) {
+    std::vector<char*> argv;
+    for (auto& w : words) argv.push_back(w.data());
+    argv.push_back(nullptr);
+    std::string path = argv[0];
+    argv[0] = const_cast<char*>(path == DUMPBREL_BIN ? "dumpbrel" : path.c_str());
+    execvp(path.c_str(), argv.data());
+    _exit(127);
+}
+
+}  // namespace
+
+Result runBinary(const Start& start) {
+    char dirTemplate[] = "/tmp/dumpbrel-test-XXXXXX";
+    std::string dir = mkdtemp(dirTemplate);
+    chmod(dir.c_str(), 0777);
+    const std::string out = dir + "/out", err = dir + "/err", trace = dir + "/trace";
+    std::string input = "/dev/null";
+    if (start.input) std::ofstream(input = dir + "/in", std::ios::binary) << *start.input;
+    std::string panel;
+    if (start.panel) std::ofstream(panel = dir + "/panel.json") << *start.panel;
+
+    pid_t pid = fork();
+    if (pid == 0) {
+        for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT"}) unsetenv(name);
+        setenv("BREL_SIM_TRACE", trace.c_str(), 1);
+        setenv("BREL_PROPERTY_DIR", (dir + "/properties").c_str(), 1);
+        if (start.panel) setenv("BREL_SIM_PANEL", panel.c_str(), 1);
+        for (const auto& [name, value] : start.env) setenv(name.c_str(), value.c_str(), 1);
+        redirect(0, input, O_RDONLY);
+        redirect(1, out, O_WRONLY | O_CREAT | O_TRUNC);
+        redirect(2, err, O_WRONLY | O_CREAT | O_TRUNC);
+        if (start.uid >= 0 && (setgid(start.uid) != 0 || setuid(start.uid) != 0)) _exit(126);
+        alarm(30);  // survives exec: a run that hangs is killed
+        execWords(commandLine(start.args));
+    }
+    int wstatus = 0;
+    waitpid(pid, &wstatus, 0);
+    Result run{readFile(out), readFile(err), readFile(trace), -1};
+    run.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
+    std::filesystem::remove_all(dir);
+    return run;
+}
+
+void execBinary(const std::vector<std::string>& args) {
+    for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);
+    execWords(commandLine(args));
+}
+
+Outcome dispatch(android::dumpbrel::DumpBrel& dumpBrel, std::vector<std::string> words) {
+    words.insert(words.begin(), "dumpbrel");
+    std::vector<char*> argv;
+    for (auto& w : words) argv.push_back(w.data());
+    argv.push_back(nullptr);
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Outcome outcome;
+    outcome.status =
+        dumpBrel.main(android::dumpbrel::Arg{static_cast<int>(words.size()), argv.data()});
+    fflush(stdout);
+    outcome.out = testing::internal::GetCapturedStdout();
+    outcome.err = testing::internal::GetCapturedStderr();
+    return outcome;
+}
+
+}  // namespace dumpbrel_test
