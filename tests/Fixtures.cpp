@@ -9,9 +9,13 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include <gtest/gtest.h>
+
+#include "framework/Main.h"
+#include "sim/Panel.h"
 
 namespace dumpbrel_test {
 
@@ -53,7 +57,10 @@ void redirect(int fd, const std::string& path, int flags) {
 
 }  // namespace
 
-Result runBinary(const Start& start) {
+// Starts a run of `start` in a child whose environment, panel and standard streams are set up,
+// which then does `run`; waits for it and collects what it left.
+template <typename Run>
+Result runChild(const Start& start, Run body) {
     char dirTemplate[] = "/tmp/dumpbrel-test-XXXXXX";
     std::string dir = mkdtemp(dirTemplate);
     chmod(dir.c_str(), 0777);
@@ -63,6 +70,8 @@ Result runBinary(const Start& start) {
     std::string panel;
     if (start.panel) std::ofstream(panel = dir + "/panel.json") << *start.panel;
 
+    std::cout.flush();
+    fflush(nullptr);  // nothing of this process's buffers may reach the child's output
     pid_t pid = fork();
     if (pid == 0) {
         for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT"}) unsetenv(name);
@@ -75,7 +84,7 @@ Result runBinary(const Start& start) {
         redirect(2, err, O_WRONLY | O_CREAT | O_TRUNC);
         if (start.uid >= 0 && (setgid(start.uid) != 0 || setuid(start.uid) != 0)) _exit(126);
         alarm(30);  // survives exec: a run that hangs is killed
-        execWords(commandLine(start.args));
+        body();
     }
     int wstatus = 0;
     waitpid(pid, &wstatus, 0);
@@ -83,6 +92,25 @@ Result runBinary(const Start& start) {
     run.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
     std::filesystem::remove_all(dir);
     return run;
+}
+
+Result runBinary(const Start& start) {
+    return runChild(start, [&] { execWords(commandLine(start.args)); });
+}
+
+Result runEntry(const Start& start) {
+    return runChild(start, [&] {
+        sim::Panel::reset();  // the panel reads the environment set above afresh
+        std::vector<std::string> words = start.args;
+        words.insert(words.begin(), "dumpbrel");
+        std::vector<char*> argv;
+        for (auto& w : words) argv.push_back(w.data());
+        argv.push_back(nullptr);
+        int status = android::dumpbrel::dumpbrelMain(static_cast<int>(words.size()), argv.data());
+        std::cout.flush();
+        fflush(nullptr);
+        _exit(status);
+    });
 }
 
 void execBinary(const std::vector<std::string>& args) {

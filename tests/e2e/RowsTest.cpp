@@ -1,6 +1,6 @@
 // What holds for every row of every sub-service, walked from the registry so that it follows the
 // modules as they change; and what every row prints on the built-in panel, compared with the
-// listing captured in rows.golden. After a change that is meant to alter what rows print,
+// listing captured in rows.golden. Runs go through the binary's entry in forked children. After a change that is meant to alter what rows print,
 // rewrite that listing and read its diff:
 //     DUMPBREL_UPDATE_GOLDEN=1 build/tests/e2e_tests --gtest_filter='Rows.*'
 
@@ -32,7 +32,7 @@ const std::vector<Module>& registry() {
 const std::string& optionList(const std::string& module) {
     static std::map<std::string, std::string> lists;
     auto found = lists.find(module);
-    if (found == lists.end()) found = lists.emplace(module, runBinary({module}).out).first;
+    if (found == lists.end()) found = lists.emplace(module, runEntry({module}).out).first;
     return found->second;
 }
 
@@ -61,7 +61,7 @@ Result runRow(const Module& module, const Row& row, const std::string& value,
     start.args = rowWords(row, value);
     start.args.insert(start.args.begin(), module.name);
     start.panel = panel;
-    return runBinary(start);
+    return runEntry(start);
 }
 
 const std::vector<RowRun>& rowRuns() {
@@ -132,7 +132,7 @@ TEST(Rows, WithTheirInterfaceAbsentAllButHelpReportItAndCallNothing) {
         Start start;
         start.args = words;
         start.env["BREL_SIM_ABSENT"] = "all";
-        Result run = runBinary(start);
+        Result run = runEntry(start);
         EXPECT_EQ(run.out, "") << module.name;
         EXPECT_EQ(run.calls, "") << module.name;
         ASSERT_GE(run.err.size(), lines.size()) << module.name;
@@ -164,7 +164,7 @@ TEST(Rows, TheUsageNamesEverySubServiceInTableOrder) {
     std::string usage = "Usage: dumpbrel <sub_service>\n";
     for (const Module& module : registry())
         usage += (&module == &registry()[0] ? "sub_service: " : "             ") + module.name + "\n";
-    EXPECT_EQ(runBinary({"-h"}).out, usage);
+    EXPECT_EQ(runEntry({"-h"}).out, usage);
 }
 
 TEST(Rows, TheOptionListHasALineForEveryRowInTableOrder) {
