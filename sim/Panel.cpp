@@ -3,13 +3,21 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cassert>
+#include <cctype>
 #include <cerrno>
+#include <clocale>
+#include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <map>
 #include <memory>
 
-// The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h).
+// The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h). The C
+// library's headers it uses come first, above: a C function first declared inside the hidden
+// region is taken to be this library's own (assert's __assert_fail, in a build without NDEBUG)
+// and the link fails. The C++ library's headers mark their own declarations visible.
 #pragma GCC visibility push(hidden)
 #include <nlohmann/json.hpp>
 #pragma GCC visibility pop
