@@ -23,7 +23,6 @@
 #include <benchmark/benchmark.h>
 
 #include "framework/DumpBrel.h"
-#include "framework/Main.h"
 #include "shell/Readline.h"
 
 using android::dumpbrel::DumpBrel;

@@ -1,11 +1,14 @@
 #include "DumpBrel.h"
 
 #include <getopt.h>
+#include <unistd.h>
 
+#include <cstdio>
 #include <iostream>
 
 #include "ListCommand.h"
 #include "service/BrelCreator.h"
+#include "shell/Prompt.h"
 
 namespace android {
 namespace dumpbrel {
@@ -95,6 +98,32 @@ Status DumpBrel::main(const Arg& arg) {
         return USAGE;
     }
     return command->main(arg);
+}
+
+namespace {
+
+bool mayRun(uid_t uid) {
+    constexpr uid_t kRoot = 0;
+    constexpr uid_t kShell = 2000;
+    return uid == kRoot || uid == kShell;
+}
+
+}  // namespace
+
+int dumpbrelMain(int argc, char** argv) {
+    DumpBrel dumpBrel;  // asks for the manager before the user is checked
+
+    uid_t uid = getuid();
+    if (!mayRun(uid)) {
+        fprintf(stderr, "uid = %u, permission denied\n", static_cast<unsigned>(uid));
+        return -1;
+    }
+
+    registerModules(dumpBrel);
+
+    if (argc < 2) return runPrompt(dumpBrel);
+    dumpBrel.main(Arg{argc, argv});
+    return 0;
 }
 
 }  // namespace dumpbrel

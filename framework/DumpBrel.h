@@ -43,6 +43,15 @@ private:
     sp<IBrelManager> mBrelManager;
 };
 
+// Builds every sub-service, in the order of the listing, and registers it with `dumpBrel`
+// (modules/Modules.cpp). The entry below does this on every run; tools that walk the registry
+// (the argument sweep, the fuzzers' seed corpus) call it on a DumpBrel of their own.
+void registerModules(DumpBrel& dumpBrel);
+
+// The whole run of the tool for one command line: the one-shot road with words, the prompt
+// without. Returns the process's exit status; main() is nothing more.
+int dumpbrelMain(int argc, char** argv);
+
 // Clears every trace of an earlier scan in getopt_long, the private cursor inside a cluster of
 // short options included, and leaves optind at 1.
 void resetOptionScanner();

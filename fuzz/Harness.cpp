@@ -9,7 +9,7 @@
 #include <cstring>
 #include <iostream>
 
-#include "framework/Main.h"
+#include "framework/DumpBrel.h"
 #include "sim/Panel.h"
 
 // Present in sanitizer runtimes only.

@@ -2,7 +2,6 @@
 
 #include "framework/DumpBrel.h"
 #include "framework/ListCommand.h"
-#include "framework/Main.h"
 
 namespace dumpbrel_fuzz {
 

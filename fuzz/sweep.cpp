@@ -35,7 +35,7 @@
 #include <vector>
 
 #include "Registry.h"
-#include "framework/Main.h"
+#include "framework/DumpBrel.h"
 #include "sim/Panel.h"
 
 // Present in sanitizer runtimes only: a leak check that a forked child can run before _exit.

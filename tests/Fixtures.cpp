@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/Main.h"
+#include "framework/DumpBrel.h"
 #include "sim/Panel.h"
 
 namespace dumpbrel_test {

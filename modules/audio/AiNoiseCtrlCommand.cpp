@@ -1,10 +1,25 @@
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Scan.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IAiNoiseCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class AiNoiseCtrlCommand : public ListCommand {
+public:
+    explicit AiNoiseCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IAiNoiseCtrl> mAiNoiseCtrl;
+};
 
 AiNoiseCtrlCommand::AiNoiseCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -37,6 +52,10 @@ Status AiNoiseCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newAiNoiseCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<AiNoiseCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,14 +1,28 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <type_traits>
 #include <vector>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IAudioCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class AudioCtrlCommand : public ListCommand {
+public:
+    explicit AudioCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IAudioCtrl> mAudioCtrl;
+};
 
 namespace {
 
@@ -146,6 +160,10 @@ Status AudioCtrlCommand::registerAllOptions() {
     add("getLineInConnectStatus:", "getLineInConnectStatus", kNone, mAudioCtrl,
         printTrueFalse("getLineInConnectStatus: ", &Audio::getLineInConnectStatus));
     return OK;
+}
+
+std::unique_ptr<ListCommand> newAudioCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<AudioCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,13 +1,27 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IAvManagerCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class AvmanagerCommand : public ListCommand {
+public:
+    explicit AvmanagerCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IAvManagerCtrl> mAvManagerCtrl;
+};
 
 namespace {
 
@@ -190,6 +204,10 @@ Status AvmanagerCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newAvmanagerCommand(DumpBrel& parent) {
+    return std::make_unique<AvmanagerCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IMicrophoneCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class MicrophoneCtrlCommand : public ListCommand {
+public:
+    explicit MicrophoneCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IMicrophoneCtrl> mMicrophoneCtrl;
+};
 
 MicrophoneCtrlCommand::MicrophoneCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -34,6 +49,10 @@ Status MicrophoneCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newMicrophoneCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<MicrophoneCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,10 +1,25 @@
 #include <cstdio>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISoundScreenAngleCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SoundScreenAngleCtrlCommand : public ListCommand {
+public:
+    explicit SoundScreenAngleCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISoundScreenAngleCtrl> mSoundScreenAngleCtrl;
+};
 
 SoundScreenAngleCtrlCommand::SoundScreenAngleCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -42,6 +57,10 @@ Status SoundScreenAngleCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSoundScreenAngleCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SoundScreenAngleCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,11 +1,26 @@
 #include <cstdio>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Scan.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ITeaDspCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class TeaDspCtrlCommand : public ListCommand {
+public:
+    explicit TeaDspCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ITeaDspCtrl> mTeaDspCtrl;
+};
 
 namespace {
 
@@ -185,6 +200,10 @@ Status TeaDspCtrlCommand::registerAllOptions() {
         },
         "\n0 or 1 :\n -- 1:(start ring call)/0:(stop ring call)\n");
     return OK;
+}
+
+std::unique_ptr<ListCommand> newTeaDspCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<TeaDspCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

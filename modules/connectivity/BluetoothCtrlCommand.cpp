@@ -1,11 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IBluetoothCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class BluetoothCtrlCommand : public ListCommand {
+public:
+    explicit BluetoothCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IBluetoothCtrl> mBluetoothCtrl;
+};
 
 BluetoothCtrlCommand::BluetoothCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -27,6 +42,10 @@ Status BluetoothCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newBluetoothCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<BluetoothCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,11 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ICameraCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class CameraCtrlCommand : public ListCommand {
+public:
+    explicit CameraCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ICameraCtrl> mCameraCtrl;
+};
 
 CameraCtrlCommand::CameraCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -37,6 +52,10 @@ Status CameraCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newCameraCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<CameraCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

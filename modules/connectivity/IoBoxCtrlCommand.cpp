@@ -1,7 +1,23 @@
-#include "modules/Modules.h"
+#include <memory>
+#include <string>
+
+#include "framework/ListCommand.h"
+#include "service/IIoBoxCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class IoBoxCtrlCommand : public ListCommand {
+public:
+    explicit IoBoxCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IIoBoxCtrl> mIoBoxCtrl;
+};
 
 IoBoxCtrlCommand::IoBoxCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -15,6 +31,10 @@ std::string IoBoxCtrlCommand::getSimpleDescription() const {
 Status IoBoxCtrlCommand::registerAllOptions() {
     addHelp();
     return OK;
+}
+
+std::unique_ptr<ListCommand> newIoBoxCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<IoBoxCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,15 +1,30 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include <utils/String16.h>
 #include <utils/String8.h>
 
 #include "framework/Flags.h"
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/INetworkCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class NetworkCtrlCommand : public ListCommand {
+public:
+    explicit NetworkCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<INetworkCtrl> mNetworkCtrl;
+};
 
 NetworkCtrlCommand::NetworkCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -117,6 +132,10 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("j", "getHotspotSharing", kNone, mNetworkCtrl,
         printResult("getHotspotSharingret = ", &INetworkCtrl::getHotspotSharing));
     return OK;
+}
+
+std::unique_ptr<ListCommand> newNetworkCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<NetworkCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

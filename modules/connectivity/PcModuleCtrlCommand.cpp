@@ -1,11 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IPcModuleCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class PcModuleCtrlCommand : public ListCommand {
+public:
+    explicit PcModuleCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IPcModuleCtrl> mPcModuleCtrl;
+};
 
 PcModuleCtrlCommand::PcModuleCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -43,6 +58,10 @@ Status PcModuleCtrlCommand::registerAllOptions() {
     add("g", "getPcBootMode", kNone, mPcModuleCtrl,
         printResult("getPcBootMode: ", &IPcModuleCtrl::getPcBootMode));
     return OK;
+}
+
+std::unique_ptr<ListCommand> newPcModuleCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<PcModuleCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

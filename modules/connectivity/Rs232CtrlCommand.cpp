@@ -1,12 +1,27 @@
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include <utils/String8.h>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IRs232Ctrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class Rs232CtrlCommand : public ListCommand {
+public:
+    explicit Rs232CtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IRs232Ctrl> mRs232Ctrl;
+};
 
 Rs232CtrlCommand::Rs232CtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -50,6 +65,10 @@ Status Rs232CtrlCommand::registerAllOptions() {
         printResult("getEmmcSize: ", &IRs232Ctrl::getEmmcSize));
     add("", "getRamSize", kNone, mRs232Ctrl, printResult("getRamSize: ", &IRs232Ctrl::getRamSize));
     return OK;
+}
+
+std::unique_ptr<ListCommand> newRs232CtrlCommand(DumpBrel& parent) {
+    return std::make_unique<Rs232CtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

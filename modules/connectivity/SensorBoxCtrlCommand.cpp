@@ -1,7 +1,23 @@
-#include "modules/Modules.h"
+#include <memory>
+#include <string>
+
+#include "framework/ListCommand.h"
+#include "service/ISensorBoxCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SensorBoxCtrlCommand : public ListCommand {
+public:
+    explicit SensorBoxCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISensorBoxCtrl> mSensorBoxCtrl;
+};
 
 SensorBoxCtrlCommand::SensorBoxCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -15,6 +31,10 @@ std::string SensorBoxCtrlCommand::getSimpleDescription() const {
 Status SensorBoxCtrlCommand::registerAllOptions() {
     addHelp();
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSensorBoxCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SensorBoxCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,11 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISerialCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SerialCtrlCommand : public ListCommand {
+public:
+    explicit SerialCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISerialCtrl> mSerialCtrl;
+};
 
 SerialCtrlCommand::SerialCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -52,6 +67,10 @@ Status SerialCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSerialCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SerialCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

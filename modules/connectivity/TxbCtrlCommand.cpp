@@ -1,15 +1,29 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "framework/CommaList.h"
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ITxbCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class TxbCtrlCommand : public ListCommand {
+public:
+    explicit TxbCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ITxbCtrl> mTxbCtrl;
+};
 
 TxbCtrlCommand::TxbCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -66,6 +80,10 @@ Status TxbCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newTxbCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<TxbCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

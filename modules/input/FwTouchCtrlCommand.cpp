@@ -1,10 +1,28 @@
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IFwTouchCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class FwTouchCtrlCommand : public ListCommand {
+public:
+    explicit FwTouchCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+    void printFwTouchInfo(const std::vector<EntityFwTouch>& list);
+    void printFwTouchDriverInfo(const std::vector<EntityFwTouchDriver>& list);
+
+private:
+    std::string mName;
+    sp<IFwTouchCtrl> mFwTouchCtrl;
+};
 
 FwTouchCtrlCommand::FwTouchCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -59,6 +77,10 @@ Status FwTouchCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newFwTouchCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<FwTouchCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,13 +1,27 @@
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <utils/String16.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IKeyboardCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class KeyboardCtrlCommand : public ListCommand {
+public:
+    explicit KeyboardCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IKeyboardCtrl> mKeyboardCtrl;
+};
 
 KeyboardCtrlCommand::KeyboardCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -41,6 +55,10 @@ Status KeyboardCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newKeyboardCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<KeyboardCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

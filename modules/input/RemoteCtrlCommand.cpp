@@ -1,14 +1,28 @@
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <utils/String16.h>
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IRemoteCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class RemoteCtrlCommand : public ListCommand {
+public:
+    explicit RemoteCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IRemoteCtrl> mRemoteCtrl;
+};
 
 RemoteCtrlCommand::RemoteCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -47,6 +61,10 @@ Status RemoteCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newRemoteCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<RemoteCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

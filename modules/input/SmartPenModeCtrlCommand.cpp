@@ -1,11 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISmartPenModeCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SmartPenModeCtrlCommand : public ListCommand {
+public:
+    explicit SmartPenModeCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISmartPenModeCtrl> mSmartPenModeCtrl;
+};
 
 SmartPenModeCtrlCommand::SmartPenModeCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -37,6 +52,10 @@ Status SmartPenModeCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSmartPenModeCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SmartPenModeCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -8,10 +8,26 @@
 #include <utils/String16.h>
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IFwTouchCtrl.h"
+#include "service/ITouchCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+// TouchCtrl also lists the touch firmware, through a second interface.
+class TouchCtrlCommand : public ListCommand {
+public:
+    explicit TouchCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ITouchCtrl> mTouchCtrl;
+    sp<IFwTouchCtrl> mFwTouchCtrl;
+};
 
 TouchCtrlCommand::TouchCtrlCommand(DumpBrel& parent) : ListCommand(parent), mName("TouchCtrl") {
     // Both interfaces come from the one manager; only the first one's absence is reported.
@@ -147,6 +163,10 @@ Status TouchCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newTouchCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<TouchCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IBacklightCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class BacklightCtrlCommand : public ListCommand {
+public:
+    explicit BacklightCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IBacklightCtrl> mBacklightCtrl;
+};
 
 BacklightCtrlCommand::BacklightCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -42,6 +57,10 @@ Status BacklightCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newBacklightCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<BacklightCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,15 +1,30 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include <utils/String16.h>
 #include <utils/String8.h>
 
 #include "framework/Lines.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IExtendDisplayCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class ExtendDisplayCtrlCommand : public ListCommand {
+public:
+    explicit ExtendDisplayCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IExtendDisplayCtrl> mExtendDisplayCtrl;
+};
 
 namespace {
 
@@ -109,6 +124,10 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newExtendDisplayCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<ExtendDisplayCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

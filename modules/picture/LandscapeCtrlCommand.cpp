@@ -1,12 +1,26 @@
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "framework/Lines.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ILandscapeCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class LandscapeCtrlCommand : public ListCommand {
+public:
+    explicit LandscapeCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ILandscapeCtrl> mLandscapeCtrl;
+};
 
 LandscapeCtrlCommand::LandscapeCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -33,6 +47,10 @@ Status LandscapeCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newLandscapeCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<LandscapeCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,13 +1,27 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "framework/Getters.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IPQCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class PQCtrlCommand : public ListCommand {
+public:
+    explicit PQCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IPQCtrl> mPQCtrl;
+};
 
 namespace {
 
@@ -136,6 +150,10 @@ Status PQCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newPQCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<PQCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,13 +1,28 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IProjectId.h"
 
 namespace android {
 namespace dumpbrel {
+
+class ProjectIdCommand : public ListCommand {
+public:
+    explicit ProjectIdCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IProjectId> mProjectId;
+};
 
 namespace {
 
@@ -56,6 +71,10 @@ Status ProjectIdCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newProjectIdCommand(DumpBrel& parent) {
+    return std::make_unique<ProjectIdCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISourceCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SourceCtrlCommand : public ListCommand {
+public:
+    explicit SourceCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISourceCtrl> mSourceCtrl;
+};
 
 SourceCtrlCommand::SourceCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -67,6 +82,10 @@ Status SourceCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSourceCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SourceCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,10 +1,24 @@
 #include <iostream>
+#include <memory>
 #include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IVgaAdjust.h"
 
 namespace android {
 namespace dumpbrel {
+
+class VgaAdjustCommand : public ListCommand {
+public:
+    explicit VgaAdjustCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IVgaAdjust> mVgaAdjust;
+};
 
 VgaAdjustCommand::VgaAdjustCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -38,6 +52,10 @@ Status VgaAdjustCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newVgaAdjustCommand(DumpBrel& parent) {
+    return std::make_unique<VgaAdjustCommand>(parent);
 }
 
 }  // namespace dumpbrel

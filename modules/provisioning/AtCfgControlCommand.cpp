@@ -1,11 +1,26 @@
 #include <iostream>
+#include <memory>
+#include <string>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IAtCfgControl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class AtCfgControlCommand : public ListCommand {
+public:
+    explicit AtCfgControlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IAtCfgControl> mAtCfgControl;
+};
 
 AtCfgControlCommand::AtCfgControlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -60,6 +75,10 @@ Status AtCfgControlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newAtCfgControlCommand(DumpBrel& parent) {
+    return std::make_unique<AtCfgControlCommand>(parent);
 }
 
 }  // namespace dumpbrel

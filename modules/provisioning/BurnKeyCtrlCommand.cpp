@@ -1,13 +1,28 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IBurnKeyCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class BurnKeyCtrlCommand : public ListCommand {
+public:
+    explicit BurnKeyCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IBurnKeyCtrl> mBurnKeyCtrl;
+};
 
 BurnKeyCtrlCommand::BurnKeyCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -65,6 +80,10 @@ Status BurnKeyCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newBurnKeyCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<BurnKeyCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,13 +1,28 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IBurnMacCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class BurnMacCtrlCommand : public ListCommand {
+public:
+    explicit BurnMacCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IBurnMacCtrl> mBurnMacCtrl;
+};
 
 BurnMacCtrlCommand::BurnMacCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -58,6 +73,10 @@ Status BurnMacCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newBurnMacCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<BurnMacCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,15 +1,30 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IFwUpgrade.h"
 
 namespace android {
 namespace dumpbrel {
+
+class FwUpgradeCommand : public ListCommand {
+public:
+    explicit FwUpgradeCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IFwUpgrade> mFwUpgrade;
+};
 
 namespace {
 
@@ -104,6 +119,10 @@ Status FwUpgradeCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newFwUpgradeCommand(DumpBrel& parent) {
+    return std::make_unique<FwUpgradeCommand>(parent);
 }
 
 }  // namespace dumpbrel

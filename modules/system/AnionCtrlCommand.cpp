@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IAnionCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class AnionCtrlCommand : public ListCommand {
+public:
+    explicit AnionCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IAnionCtrl> mAnionCtrl;
+};
 
 AnionCtrlCommand::AnionCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -24,6 +39,10 @@ Status AnionCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newAnionCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<AnionCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,9 +1,24 @@
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IDebugCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class DebugCtrlCommand : public ListCommand {
+public:
+    explicit DebugCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IDebugCtrl> mDebugCtrl;
+};
 
 DebugCtrlCommand::DebugCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -31,6 +46,10 @@ Status DebugCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newDebugCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<DebugCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,14 +1,34 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IDeviceCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class DeviceCtrlCommand : public ListCommand {
+public:
+    explicit DeviceCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+    // The usbsw row: action, target and value as typed.
+    void doUsbSwDebug(const std::string& action, const std::string& target,
+                      const std::string& value);
+    int getUsbswChannelByName(const std::string& name);
+
+private:
+    std::string mName;
+    sp<IDeviceCtrl> mDeviceCtrl;
+};
 
 namespace {
 
@@ -123,6 +143,10 @@ Status DeviceCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newDeviceCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<DeviceCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

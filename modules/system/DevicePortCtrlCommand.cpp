@@ -1,13 +1,27 @@
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <utils/String8.h>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IDevicePortCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class DevicePortCtrlCommand : public ListCommand {
+public:
+    explicit DevicePortCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IDevicePortCtrl> mDevicePortCtrl;
+};
 
 namespace {
 
@@ -78,6 +92,10 @@ Status DevicePortCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newDevicePortCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<DevicePortCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

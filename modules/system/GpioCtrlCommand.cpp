@@ -1,11 +1,25 @@
 #include <iostream>
+#include <memory>
 #include <sstream>
 #include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IGpioCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class GpioCtrlCommand : public ListCommand {
+public:
+    explicit GpioCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IGpioCtrl> mGpioCtrl;
+};
 
 namespace {
 
@@ -123,6 +137,10 @@ Status GpioCtrlCommand::registerAllOptions() {
         },
         "unsigned int");
     return OK;
+}
+
+std::unique_ptr<ListCommand> newGpioCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<GpioCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

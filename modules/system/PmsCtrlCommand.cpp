@@ -1,13 +1,28 @@
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include <utils/String8.h>
 
 #include "framework/CommaList.h"
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IPmsCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class PmsCtrlCommand : public ListCommand {
+public:
+    explicit PmsCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IPmsCtrl> mPmsCtrl;
+};
 
 PmsCtrlCommand::PmsCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -52,6 +67,10 @@ Status PmsCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newPmsCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<PmsCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

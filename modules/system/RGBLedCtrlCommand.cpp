@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IRGBLedCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class RGBLedCtrlCommand : public ListCommand {
+public:
+    explicit RGBLedCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IRGBLedCtrl> mRGBLedCtrl;
+};
 
 RGBLedCtrlCommand::RGBLedCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -69,6 +84,10 @@ Status RGBLedCtrlCommand::registerAllOptions() {
         return OK;
     });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newRGBLedCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<RGBLedCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

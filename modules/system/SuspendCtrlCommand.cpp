@@ -1,10 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISuspendCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SuspendCtrlCommand : public ListCommand {
+public:
+    explicit SuspendCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISuspendCtrl> mSuspendCtrl;
+};
 
 SuspendCtrlCommand::SuspendCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -35,6 +50,10 @@ Status SuspendCtrlCommand::registerAllOptions() {
         },
         "true : suspend \nfalse : resume\n");
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSuspendCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SuspendCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,12 +1,26 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/ISystemCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class SystemCtrlCommand : public ListCommand {
+public:
+    explicit SystemCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<ISystemCtrl> mSystemCtrl;
+};
 
 namespace {
 
@@ -412,6 +426,10 @@ Status SystemCtrlCommand::registerAllOptions() {
             return OK;
         });
     return OK;
+}
+
+std::unique_ptr<ListCommand> newSystemCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<SystemCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

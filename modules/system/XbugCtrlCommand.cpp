@@ -1,11 +1,25 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 
-#include "modules/Modules.h"
+#include "framework/ListCommand.h"
+#include "service/IXbugCtrl.h"
 
 namespace android {
 namespace dumpbrel {
+
+class XbugCtrlCommand : public ListCommand {
+public:
+    explicit XbugCtrlCommand(DumpBrel& parent);
+    std::string getName() const override { return mName; }
+    std::string getSimpleDescription() const override;
+    Status registerAllOptions() override;
+
+private:
+    std::string mName;
+    sp<IXbugCtrl> mXbugCtrl;
+};
 
 XbugCtrlCommand::XbugCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -83,6 +97,10 @@ Status XbugCtrlCommand::registerAllOptions() {
         },
         "std::string");
     return OK;
+}
+
+std::unique_ptr<ListCommand> newXbugCtrlCommand(DumpBrel& parent) {
+    return std::make_unique<XbugCtrlCommand>(parent);
 }
 
 }  // namespace dumpbrel

@@ -1,5 +1,0 @@
-#include "Main.h"
-
-int main(int argc, char** argv) {
-    return android::dumpbrel::dumpbrelMain(argc, argv);
-}
