@@ -73,6 +73,40 @@ bool Input::toInt(int& out, int base) const {
     return text != nullptr && toInt(std::string(text), out, base);
 }
 
+bool Input::toFlag(bool& flag) const {
+    int value = 0;
+    if (!toInt(value)) return false;
+    flag = value != 0;
+    return true;
+}
+
+std::vector<std::string> Input::commaList() const {
+    std::vector<std::string> list;
+    if (text == nullptr) return list;
+    std::istringstream stream(text);
+    for (std::string field; std::getline(stream, field, ',');) list.push_back(field);
+    return list;
+}
+
+namespace {
+
+bool refuseOne() {
+    fputs("Invalid argument format. Use: one arg\n", stderr);
+    return false;
+}
+
+}  // namespace
+
+bool Input::scanOne(int& out) const {
+    if (text == nullptr || sscanf(text, "%d", &out) != 1) return refuseOne();
+    return true;
+}
+
+bool Input::scanOne(float& out) const {
+    if (text == nullptr || sscanf(text, "%f", &out) != 1) return refuseOne();
+    return true;
+}
+
 void Input::refuse(std::string_view problem) const {
     const ListCommand::Option* row = mCommand.runningOption();
     std::string name = mCommand.getName();

@@ -30,6 +30,21 @@ public:
     bool toULong(const std::string& s, unsigned long& out, int base = 10) const;
     // The same on the whole argument; a missing argument gives false with no line.
     bool toInt(int& out, int base = 10) const;
+    // An on/off argument: toInt on the whole text, true when the number is not 0. Rows echo the
+    // text as typed, not the number.
+    bool toFlag(bool& flag) const;
+
+    // The whole text split at every comma, by std::getline until it fails: fields in the middle
+    // may be empty, a comma at the very end adds no empty field, and an empty or missing text
+    // gives no field at all.
+    std::vector<std::string> commaList() const;
+
+    // One value read with sscanf ("%d" or "%f"): leading white space and a sign are taken, text
+    // behind the number is ignored. When sscanf does not read exactly one value (no number,
+    // empty or missing text) "Invalid argument format. Use: one arg" goes to standard error and
+    // the result is false; the row then returns USAGE without calling.
+    bool scanOne(int& out) const;
+    bool scanOne(float& out) const;
 
     // One line on standard error: "<sub-service> --<option>: <problem>".
     void refuse(std::string_view problem) const;
@@ -39,9 +54,6 @@ public:
 private:
     const ListCommand& mCommand;
 };
-
-// "true" / "false", the words the tables print for a bool.
-inline const char* trueFalse(bool value) { return value ? "true" : "false"; }
 
 }  // namespace dumpbrel
 }  // namespace android

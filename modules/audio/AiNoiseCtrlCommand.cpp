@@ -2,8 +2,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/Scan.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IAiNoiseCtrl.h"
 
 namespace android {
@@ -38,7 +38,7 @@ Status AiNoiseCtrlCommand::registerAllOptions() {
     });
     add("s:", "setAiNoise", kRequired, mAiNoiseCtrl, [](IAiNoiseCtrl& noise, const Input& in) {
         float value = 0.0f;
-        if (!scanOne(in.text, value)) return USAGE;
+        if (!in.scanOne(value)) return USAGE;
         // Both bounds are valid; a NaN fails neither test and goes through.
         if (value < 0.0f || value > 1.0f) {
             std::cerr << "Invalid argument format. Use: (0.0f-1.0)" << '\n';

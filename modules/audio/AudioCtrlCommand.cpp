@@ -5,8 +5,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IAudioCtrl.h"
 
 namespace android {
@@ -25,40 +25,6 @@ private:
 };
 
 namespace {
-
-const char* failOrSuccess(int result) {
-    return result != 0 ? "fail" : "success";
-}
-
-// A switch set by a std::stoi number: `label`, the number, " ret= " and the result as 0 or 1.
-auto setSwitch(const char* label, bool (IAudioCtrl::*op)(int)) {
-    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
-        int enable = 0;
-        if (!in.toInt(enable)) return USAGE;
-        std::cout << label << enable << " ret= " << (audio.*op)(enable) << '\n';
-        return OK;
-    };
-}
-
-// A mode set by a std::stoi number: `label`, then fail or success by the result.
-auto setMode(const char* label, int (IAudioCtrl::*op)(int)) {
-    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
-        int mode = 0;
-        if (!in.toInt(mode)) return USAGE;
-        std::cout << label << failOrSuccess((audio.*op)(mode)) << '\n';
-        return OK;
-    };
-}
-
-// A value read for the std::stoi number of a module or channel: `label` and the result.
-auto getFor(const char* label, int (IAudioCtrl::*op)(int)) {
-    return [label, op](IAudioCtrl& audio, const Input& in) -> Status {
-        int which = 0;
-        if (!in.toInt(which)) return USAGE;
-        std::cout << label << (audio.*op)(which) << '\n';
-        return OK;
-    };
-}
 
 // A value set from the pair "<module or channel>,<value>", both read with atoi: `label`, fail
 // or success by the result, then `first` and the first field as typed, ", value = " and the
@@ -109,15 +75,15 @@ Status AudioCtrlCommand::registerAllOptions() {
     using Audio = IAudioCtrl;
     addHelp();
     add("l:", "setAudioLineOutEnabled", kRequired, mAudioCtrl,
-        setSwitch("setAudioLineOutEnabled ", &Audio::setAudioLineOutEnabled));
+        printStoiAndResult("setAudioLineOutEnabled ", &Audio::setAudioLineOutEnabled, " ret= "));
     add("p:", "setAudioPathInternalEnabled", kRequired, mAudioCtrl,
-        setSwitch("setAudioPathInternalEnabled ", &Audio::setAudioPathInternalEnabled));
+        printStoiAndResult("setAudioPathInternalEnabled ", &Audio::setAudioPathInternalEnabled, " ret= "));
     add("s:", "setSPDIFOutEnabled", kRequired, mAudioCtrl,
-        setSwitch("setSPDIFOutEnabled ", &Audio::setSPDIFOutEnabled));
+        printStoiAndResult("setSPDIFOutEnabled ", &Audio::setSPDIFOutEnabled, " ret= "));
     add("a", "isMicrophoneAvaliable", kNone, mAudioCtrl,
-        printTrueFalse("isMicrophoneAvaliable: ", &Audio::isMicrophoneAvaliable));
+        printResult("isMicrophoneAvaliable: ", &Audio::isMicrophoneAvaliable, trueFalse));
     add("o", "getOtgMicState", kNone, mAudioCtrl,
-        printTrueFalse("getOtgMicState: ", &Audio::getOtgMicState));
+        printResult("getOtgMicState: ", &Audio::getOtgMicState, trueFalse));
     add("t:", "setOtgMicState", kRequired, mAudioCtrl, [](Audio& audio, const Input& in) {
         int state = 0;
         if (!in.toInt(state)) return USAGE;
@@ -135,15 +101,15 @@ Status AudioCtrlCommand::registerAllOptions() {
         return OK;
     });
     add("c:", "getAudioGain", kRequired, mAudioCtrl,
-        getFor("getAudioGain ret= ", &Audio::getAudioGain));
+        printResultForStoi("getAudioGain ret= ", &Audio::getAudioGain));
     add("d:", "setAudioGain", kRequired, mAudioCtrl,
         setValue("setAudioGain ", ", module = ", &Audio::setAudioGain));
     add("y:", "getAudioDelay", kRequired, mAudioCtrl,
-        getFor("getAudioDelay ret= ", &Audio::getAudioDelay));
+        printResultForStoi("getAudioDelay ret= ", &Audio::getAudioDelay));
     add("e:", "setAudioDelay", kRequired, mAudioCtrl,
         setValue("setAudioDelay ", ", channel = ", &Audio::setAudioDelay));
     add("e:", "getAudioOutEnableStatus", kRequired, mAudioCtrl,
-        getFor("getAudioOutEnableStatus ret= ", &Audio::getAudioOutEnableStatus));
+        printResultForStoi("getAudioOutEnableStatus ret= ", &Audio::getAudioOutEnableStatus));
     add("f:", "setAudioOutEnableStatus", kRequired, mAudioCtrl,
         setModuleStatus("setAudioOutEnableStatus ", &Audio::setAudioOutEnableStatus));
     add("z:", "setTrebleOneChannelMute", kRequired, mAudioCtrl,
@@ -152,13 +118,13 @@ Status AudioCtrlCommand::registerAllOptions() {
     add("o:", "setBassOneChannelMute", kRequired, mAudioCtrl,
         setModuleStatus("setBassOneChannelMute ", &Audio::setBassOneChannelMute));
     add("x:", "getEQMode", kNone, mAudioCtrl, printResult("getEQMode ret= ", &Audio::getEQMode));
-    add("s:", "setEQMode", kRequired, mAudioCtrl, setMode("setEQMode ", &Audio::setEQMode));
+    add("s:", "setEQMode", kRequired, mAudioCtrl, printResultForStoi("setEQMode ", &Audio::setEQMode, failOrSuccess));
     add("x:", "getAudioOutMode", kNone, mAudioCtrl,
         printResult("getAudioOutMode ret= ", &Audio::getAudioOutMode));
     add("s:", "setAudioOutMode", kRequired, mAudioCtrl,
-        setMode("setAudioOutMode ", &Audio::setAudioOutMode));
+        printResultForStoi("setAudioOutMode ", &Audio::setAudioOutMode, failOrSuccess));
     add("getLineInConnectStatus:", "getLineInConnectStatus", kNone, mAudioCtrl,
-        printTrueFalse("getLineInConnectStatus: ", &Audio::getLineInConnectStatus));
+        printResult("getLineInConnectStatus: ", &Audio::getLineInConnectStatus, trueFalse));
     return OK;
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IAvManagerCtrl.h"
 
 namespace android {
@@ -22,30 +22,6 @@ private:
     std::string mName;
     sp<IAvManagerCtrl> mAvManagerCtrl;
 };
-
-namespace {
-
-// A camera mode (or the DOA data) set by an atoi number: `label`, the number, " ret = " and
-// 1 when the result is not 0, else 0.
-auto setCameraMode(const char* label, int (IAvManagerCtrl::*op)(int)) {
-    return [label, op](IAvManagerCtrl& av, const Input& in) -> Status {
-        if (in.missing()) return USAGE;
-        int mode = atoi(in.text);
-        std::cout << label << mode << " ret = " << ((av.*op)(mode) != 0 ? 1 : 0) << '\n';
-        return OK;
-    };
-}
-
-// A camera preset handled by its atoi number: `label` and the result as 0 or 1.
-auto presetPosition(const char* label, bool (IAvManagerCtrl::*op)(int)) {
-    return [label, op](IAvManagerCtrl& av, const Input& in) -> Status {
-        if (in.missing()) return USAGE;
-        std::cout << label << (av.*op)(atoi(in.text)) << '\n';
-        return OK;
-    };
-}
-
-}  // namespace
 
 AvmanagerCommand::AvmanagerCommand(DumpBrel& parent)
     : ListCommand(parent),
@@ -73,14 +49,10 @@ Status AvmanagerCommand::registerAllOptions() {
         },
         "channel[0-uac 1-spdif 2-main 4-left balance 5-right balance 6-bottom tweeter 7-top "
         "tweeter],volume[0-100]\n");
-    add("e:", "setDspUsbEnable", kRequired, mAvManagerCtrl, [](Av& av, const Input& in) {
-        bool enable = atoi(in.text) != 0;
-        av.setDspUsbEnable(enable);
-        std::cout << "setDspUsbEnable: " << trueFalse(enable) << '\n';
-        return OK;
-    });
+    add("e:", "setDspUsbEnable", kRequired, mAvManagerCtrl,
+        printAtoi("setDspUsbEnable: ", &Av::setDspUsbEnable, trueFalse));
     add("u", "getDspUsbEnable", kNone, mAvManagerCtrl,
-        printTrueFalse("getDspUsbEnable: ", &Av::getDspUsbEnable));
+        printResult("getDspUsbEnable: ", &Av::getDspUsbEnable, trueFalse));
     add("r", "release", kNone, mAvManagerCtrl, [](Av& av, const Input&) {
         av.release();
         std::cout << "release ok" << '\n';
@@ -91,12 +63,8 @@ Status AvmanagerCommand::registerAllOptions() {
         std::cout << "init ok" << '\n';
         return OK;
     });
-    add("o:", "setSpkOutPutMode", kRequired, mAvManagerCtrl, [](Av& av, const Input& in) {
-        int mode = atoi(in.text);
-        av.setSpkOutPutMode(mode);
-        std::cout << "setSpkOutPutMode ok, mode = " << mode << '\n';
-        return OK;
-    });
+    add("o:", "setSpkOutPutMode", kRequired, mAvManagerCtrl,
+        printAtoi("setSpkOutPutMode ok, mode = ", &Av::setSpkOutPutMode));
     add("g", "getSpkOutPutMode", kNone, mAvManagerCtrl,
         printResult("getSpkOutPutMode ok, mode = ", &Av::getSpkOutPutMode));
     // The one row whose true result means failure.
@@ -123,41 +91,33 @@ Status AvmanagerCommand::registerAllOptions() {
                       << " ret = " << av.setMicAlgorithmParameters(type, value) << '\n';
             return OK;
         });
-    add("s:", "setMicVolume", kRequired, mAvManagerCtrl, [](Av& av, const Input& in) {
-        if (in.missing()) return USAGE;
-        int vol = atoi(in.text);
-        std::cout << "setMicVolume vol = " << vol << " ret = " << av.setMicVolume(vol) << '\n';
-        return OK;
-    });
+    add("s:", "setMicVolume", kRequired, mAvManagerCtrl,
+        printAtoiAndResult("setMicVolume vol = ", &Av::setMicVolume, " ret = "));
     add("g", "getMicVolume", kNone, mAvManagerCtrl,
         printResult("getMicVolume vol = ", &Av::getMicVolume));
     add("a", "isMicAvailable", kNone, mAvManagerCtrl,
-        printTrueFalse("isMicAvailable: ", &Av::isMicAvailable));
-    add("s:", "enableMic", kRequired, mAvManagerCtrl, [](Av& av, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        std::cout << "enableMic enalbe = " << enable << " ret = " << av.enableMic(enable) << '\n';
-        return OK;
-    });
+        printResult("isMicAvailable: ", &Av::isMicAvailable, trueFalse));
+    add("s:", "enableMic", kRequired, mAvManagerCtrl,
+        printAtoiAndResult("enableMic enalbe = ", &Av::enableMic, " ret = "));
     add("n", "getSN", kNone, mAvManagerCtrl, printResult("getSN: ", &Av::getSN));
     add("x", "getCameraPtzMode", kNone, mAvManagerCtrl,
         printResult("getCameraPtzMode: ", &Av::getCameraPtzMode));
     add("z:", "setCameraPtzMode", kRequired, mAvManagerCtrl,
-        setCameraMode("setCameraPtzMode mode = ", &Av::setCameraPtzMode));
+        printAtoiAndResult("setCameraPtzMode mode = ", &Av::setCameraPtzMode, " ret = ", oneOrZero));
     add("z:", "setCameraPipMode", kRequired, mAvManagerCtrl,
-        setCameraMode("setCameraPipMode mode = ", &Av::setCameraPipMode));
+        printAtoiAndResult("setCameraPipMode mode = ", &Av::setCameraPipMode, " ret = ", oneOrZero));
     add("x", "getCameraPipMode", kNone, mAvManagerCtrl,
         printResult("getCameraPipMode: ", &Av::getCameraPipMode));
     add("z:", "setCameraAisrStatus", kRequired, mAvManagerCtrl,
-        setCameraMode("setCameraAisrStatus mode = ", &Av::setCameraAisrStatus));
+        printAtoiAndResult("setCameraAisrStatus mode = ", &Av::setCameraAisrStatus, " ret = ", oneOrZero));
     add("x", "getCameraAisrStatus", kNone, mAvManagerCtrl,
         printResult("getCameraAisrStatus: ", &Av::getCameraAisrStatus));
     add("z:", "setCameraHdr", kRequired, mAvManagerCtrl,
-        setCameraMode("setCameraHdr mode = ", &Av::setCameraHdr));
+        printAtoiAndResult("setCameraHdr mode = ", &Av::setCameraHdr, " ret = ", oneOrZero));
     add("x", "getCameraHdr", kNone, mAvManagerCtrl,
         printResult("getCameraHdr: ", &Av::getCameraHdr));
     add("j:", "transferDoaData", kRequired, mAvManagerCtrl,
-        setCameraMode("transferDoaData doa = ", &Av::transferDoaData));
+        printAtoiAndResult("transferDoaData doa = ", &Av::transferDoaData, " ret = ", oneOrZero));
     add("u", "getDspOtaModule", kNone, mAvManagerCtrl,
         printResult("getDspOtaModule: ", &Av::getDspOtaModule));
     add("u", "setCameraMoveUp", kNone, mAvManagerCtrl,
@@ -176,13 +136,13 @@ Status AvmanagerCommand::registerAllOptions() {
         printResult("setCameraZoomReset, ret = ", &Av::setCameraZoomReset));
     // The presets need an argument in their long form; their letters take none.
     add("s", "setCameraPresetPosition", kRequired, mAvManagerCtrl,
-        presetPosition("setCameraPresetPosition, ret = ", &Av::setCameraPresetPosition));
+        printResultForAtoi("setCameraPresetPosition, ret = ", &Av::setCameraPresetPosition));
     add("g", "getCameraPresetPosition", kNone, mAvManagerCtrl,
         printResult("getCameraPresetPosition: ", &Av::getCameraPresetPosition));
     add("s", "delCameraPresetPosition", kRequired, mAvManagerCtrl,
-        presetPosition("delCameraPresetPosition, ret = ", &Av::delCameraPresetPosition));
+        printResultForAtoi("delCameraPresetPosition, ret = ", &Av::delCameraPresetPosition));
     add("y", "gotoCameraPresetPosition", kRequired, mAvManagerCtrl,
-        presetPosition("gotoCameraPresetPosition, ret = ", &Av::gotoCameraPresetPosition));
+        printResultForAtoi("gotoCameraPresetPosition, ret = ", &Av::gotoCameraPresetPosition));
     add("f", "get_av_signal_format", kNone, mAvManagerCtrl, [](Av& av, const Input&) {
         AvSignalFormat av_format = av.get_av_signal_format();
         std::cout << "av_format.width = " << av_format.width << '\n'

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/Scan.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ITeaDspCtrl.h"
 
 namespace android {
@@ -27,7 +27,7 @@ namespace {
 // The one integer of a ranged row, read and tested against [low, high]; a value outside goes
 // with the row's own message to standard error.
 bool readRanged(const Input& in, int low, int high, const char* rangeMessage, int& value) {
-    if (!scanOne(in.text, value)) return false;
+    if (!in.scanOne(value)) return false;
     if (value < low || value > high) {
         std::cerr << rangeMessage << '\n';
         return false;

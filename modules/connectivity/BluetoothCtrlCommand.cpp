@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IBluetoothCtrl.h"
 
 namespace android {

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ICameraCtrl.h"
 
 namespace android {
@@ -43,7 +43,7 @@ Status CameraCtrlCommand::registerAllOptions() {
             return OK;
         });
     add("g", "getCameraEnable", kNone, mCameraCtrl,
-        printTrueFalse("getCameraEnable: ", &ICameraCtrl::getCameraEnable));
+        printResult("getCameraEnable: ", &ICameraCtrl::getCameraEnable, trueFalse));
     add("s:", "setCameraEnable", kRequired, mCameraCtrl, [](ICameraCtrl& camera, const Input& in) {
         int state = 0;
         if (!in.toInt(state)) return USAGE;

@@ -6,9 +6,8 @@
 #include <utils/String16.h>
 #include <utils/String8.h>
 
-#include "framework/Flags.h"
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/INetworkCtrl.h"
 
 namespace android {
@@ -60,13 +59,13 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("e:", "setMcuDhcpEnable", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
-            if (!toFlag(in, enable)) return USAGE;
+            if (!in.toFlag(enable)) return USAGE;
             std::cout << "setMcuDhcpEnable ret = " << net.setMcuDhcpEnable(enable) << '\n';
             return OK;
         });
     add("l:", "SetWOLEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
         bool enable = false;
-        if (!toFlag(in, enable)) return USAGE;
+        if (!in.toFlag(enable)) return USAGE;
         bool ret = net.SetWOLEnable(enable);
         std::cout << "SetWOLEnable " << in.text << ", ret = " << ret << '\n';
         return OK;
@@ -75,7 +74,7 @@ Status NetworkCtrlCommand::registerAllOptions() {
         printResult("GetWOLEnable ret = ", &INetworkCtrl::GetWOLEnable));
     add("w:", "SetWOWEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
         bool enable = false;
-        if (!toFlag(in, enable)) return USAGE;
+        if (!in.toFlag(enable)) return USAGE;
         bool ret = net.SetWOWEnable(enable);
         std::cout << "SetWOWEnable " << in.text << ", ret = " << ret << '\n';
         return OK;
@@ -83,11 +82,11 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("n:", "GetWOWEnable", kNone, mNetworkCtrl,
         printResult("GetWOWEnable ret = ", &INetworkCtrl::GetWOWEnable));
     add("d:", "getWifiDongleStatus", kNone, mNetworkCtrl,
-        printTrueFalse("getWifiDongleStatus: ", &INetworkCtrl::getWifiDongleStatus));
+        printResult("getWifiDongleStatus: ", &INetworkCtrl::getWifiDongleStatus, trueFalse));
     add("x:", "setMcuToControlMonitorNetwork", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
-            if (!toFlag(in, enable)) return USAGE;
+            if (!in.toFlag(enable)) return USAGE;
             bool ret = net.setMcuToControlMonitorNetwork(enable);
             std::cout << "setMcuToControlMonitorNetwork " << in.text << ", ret = " << ret << '\n';
             return OK;
@@ -95,7 +94,7 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("D:", "disableApUsbDevice", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool disable = false;
-            if (!toFlag(in, disable)) return USAGE;
+            if (!in.toFlag(disable)) return USAGE;
             bool ret = net.disableApUsbDevice(disable);
             std::cout << "disableApUsbDevice " << in.text << ", ret = " << ret << '\n';
             return OK;
@@ -103,7 +102,7 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("d:", "setSharingDirection", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool direction = false;
-            if (!toFlag(in, direction)) return USAGE;
+            if (!in.toFlag(direction)) return USAGE;
             bool ret = net.setSharingDirection(direction);
             std::cout << "setSharingDirection " << in.text << ", ret = " << ret << '\n';
             return OK;
@@ -113,7 +112,7 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("a:", "setAndroidToPcSharing", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
-            if (!toFlag(in, enable)) return USAGE;
+            if (!in.toFlag(enable)) return USAGE;
             bool ret = net.setAndroidToPcSharing(enable);
             std::cout << "setAndroidToPcSharing " << in.text << ", ret = " << ret << '\n';
             return OK;
@@ -123,7 +122,7 @@ Status NetworkCtrlCommand::registerAllOptions() {
     add("J:", "setHotspotSharing", kRequired, mNetworkCtrl,
         [](INetworkCtrl& net, const Input& in) {
             bool enable = false;
-            if (!toFlag(in, enable)) return USAGE;
+            if (!in.toFlag(enable)) return USAGE;
             bool ret = net.setHotspotSharing(enable);
             std::cout << "setHotspotSharing " << in.text << ", ret = " << ret << '\n';
             return OK;

@@ -4,8 +4,8 @@
 
 #include <utils/String8.h>
 
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IRs232Ctrl.h"
 
 namespace android {

@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "framework/CommaList.h"
-#include "framework/Getters.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ITxbCtrl.h"
 
 namespace android {
@@ -59,7 +58,7 @@ Status TxbCtrlCommand::registerAllOptions() {
     // value typed lands in element 1.
     add("s:", "setTxbSensorSelfTestState", kRequired, mTxbCtrl,
         [](ITxbCtrl& txb, const Input& in) {
-            std::vector<std::string> field = commaList(in.text);
+            std::vector<std::string> field = in.commaList();
             if (field.empty()) {
                 in.refuse("no count given");
                 return USAGE;

@@ -7,8 +7,8 @@
 #include <utils/String16.h>
 #include <utils/String8.h>
 
-#include "framework/Lines.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IExtendDisplayCtrl.h"
 
 namespace android {

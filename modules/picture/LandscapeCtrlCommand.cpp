@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "framework/Lines.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ILandscapeCtrl.h"
 
 namespace android {

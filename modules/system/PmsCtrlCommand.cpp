@@ -5,8 +5,8 @@
 
 #include <utils/String8.h>
 
-#include "framework/CommaList.h"
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IPmsCtrl.h"
 
 namespace android {
@@ -57,7 +57,7 @@ Status PmsCtrlCommand::registerAllOptions() {
     // A comma list of input sources; the whole list is read before anything is sent.
     add("w:", "setPmsWakeupSources", kRequired, mPmsCtrl, [](IPmsCtrl& pms, const Input& in) {
         std::vector<_BrelEnumInputSourceId_> sources;
-        for (const std::string& field : commaList(in.text)) {
+        for (const std::string& field : in.commaList()) {
             int source = 0;
             if (!in.toInt(field, source)) return USAGE;
             sources.push_back(static_cast<_BrelEnumInputSourceId_>(source));

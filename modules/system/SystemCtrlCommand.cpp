@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ISystemCtrl.h"
 
 namespace android {
@@ -33,12 +34,16 @@ void printNarrow(const String16& text) {
     std::cout << '\n';
 }
 
-const char* enableDisable(bool on) {
-    return on ? "enable" : "disable";
+const char* yesNo(bool running) {
+    return running ? "yes" : "no";
 }
 
-const char* successFail(bool ok) {
-    return ok ? "success" : "fail";
+const char* notLockLock(bool state) {
+    return state ? "not lock" : "lock";
+}
+
+const char* bootMediaName(int type) {
+    return type != 0 ? "bootvideo" : "bootanimation";
 }
 
 }  // namespace
@@ -53,6 +58,7 @@ std::string SystemCtrlCommand::getSimpleDescription() const {
 }
 
 Status SystemCtrlCommand::registerAllOptions() {
+    using Sys = ISystemCtrl;
     addHelp();
 
     // Security, test state, debug port, infra-red and alarm.
@@ -73,16 +79,10 @@ Status SystemCtrlCommand::registerAllOptions() {
         }
         return OK;
     });
-    add("s", "getSystemSetting", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        int setting = sys.getSystemSetting();
-        std::cout << "SystemSetting = " << setting << '\n';
-        return OK;
-    });
-    add("c", "isCtsRunning", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool running = sys.isCtsRunning();
-        std::cout << "CtsRunning : " << (running ? "yes" : "no") << '\n';
-        return OK;
-    });
+    add("s", "getSystemSetting", kNone, mSystemCtrl,
+        printResult("SystemSetting = ", &Sys::getSystemSetting));
+    add("c", "isCtsRunning", kNone, mSystemCtrl,
+        printResult("CtsRunning : ", &Sys::isCtsRunning, yesNo));
     add("r:", "setCtsRunning", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
         if (in.missing()) return USAGE;
         int value = atoi(in.text);
@@ -97,164 +97,62 @@ Status SystemCtrlCommand::registerAllOptions() {
         std::cout << "setDebugUartSwitch " << successFail(ok) << " uartSwitch = " << value << '\n';
         return OK;
     });
-    add("d", "getDebugUartSwitch", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        int value = sys.getDebugUartSwitch();
-        std::cout << "getDebugUartSwitch, ret = " << value << '\n';
-        return OK;
-    });
-    add("t:", "setAlarmTime", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        int value = atoi(in.text);
-        bool ok = sys.setAlarmTime(value);
-        std::cout << "setAlarmTime = " << value << ", ret = " << successFail(ok) << '\n';
-        return OK;
-    });
-    add("p:", "setIrInPort", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        int value = atoi(in.text);
-        bool ret = sys.setIrInPort(value);
-        std::cout << "setIrInPort = " << value << ", ret = " << ret << '\n';
-        return OK;
-    });
-    add("i", "getIrInPort", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        int port = sys.getIrInPort();
-        std::cout << "getIrInPort = " << port << '\n';
-        return OK;
-    });
-    add("s", "getDeviceAVBState", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool state = sys.getDeviceAVBState();
-        std::cout << "device avb state is " << state << '\n';
-        return OK;
-    });
-    add("a:", "setDeviceAVBState", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool state = atoi(in.text) != 0;
-        bool ret = sys.setDeviceAVBState(state);
-        std::cout << "device avb state to " << state << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("d", "getDebugUartSwitch", kNone, mSystemCtrl,
+        printResult("getDebugUartSwitch, ret = ", &Sys::getDebugUartSwitch));
+    add("t:", "setAlarmTime", kRequired, mSystemCtrl,
+        printAtoiAndResult("setAlarmTime = ", &Sys::setAlarmTime, ", ret = ", successFail));
+    add("p:", "setIrInPort", kRequired, mSystemCtrl,
+        printAtoiAndResult("setIrInPort = ", &Sys::setIrInPort));
+    add("i", "getIrInPort", kNone, mSystemCtrl, printResult("getIrInPort = ", &Sys::getIrInPort));
+    add("s", "getDeviceAVBState", kNone, mSystemCtrl,
+        printResult("device avb state is ", &Sys::getDeviceAVBState));
+    add("a:", "setDeviceAVBState", kRequired, mSystemCtrl,
+        printAtoiAndResult("device avb state to ", &Sys::setDeviceAVBState));
 
     // USB.
-    add("b", "getUsbAdbState", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool state = sys.getUsbAdbState();
-        std::cout << "usb adb state " << enableDisable(state) << '\n';
-        return OK;
-    });
-    add("t:", "setUsbAdbState", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool state = atoi(in.text) != 0;
-        bool ret = sys.setUsbAdbState(state);
-        std::cout << "usb adb state to " << state << ", ret = " << ret << '\n';
-        return OK;
-    });
-    add("u", "getUsbPowerEnableSta", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool state = sys.getUsbPowerEnableSta();
-        std::cout << "getUsbPowerEnableSta is " << state << '\n';
-        return OK;
-    });
-    add("e:", "setUsbPowerEnable", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        bool ret = sys.setUsbPowerEnable(enable);
-        std::cout << "usb power state to " << enable << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("b", "getUsbAdbState", kNone, mSystemCtrl,
+        printResult("usb adb state ", &Sys::getUsbAdbState, enableDisable));
+    add("t:", "setUsbAdbState", kRequired, mSystemCtrl,
+        printAtoiAndResult("usb adb state to ", &Sys::setUsbAdbState));
+    add("u", "getUsbPowerEnableSta", kNone, mSystemCtrl,
+        printResult("getUsbPowerEnableSta is ", &Sys::getUsbPowerEnableSta));
+    add("e:", "setUsbPowerEnable", kRequired, mSystemCtrl,
+        printAtoiAndResult("usb power state to ", &Sys::setUsbPowerEnable));
 
     // Suspend-to-RAM lock, wake-up sources and the CPU temperature.
-    add("w", "getSTRWakeLockState", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool state = sys.getSTRWakeLockState();
-        std::cout << "str state is " << (state ? "not lock" : "lock") << '\n';
-        return OK;
-    });
+    add("w", "getSTRWakeLockState", kNone, mSystemCtrl,
+        printResult("str state is ", &Sys::getSTRWakeLockState, notLockLock));
     add("l:", "setSTRWakeLockState", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool state = atoi(in.text) != 0;
-            bool ret = sys.setSTRWakeLockState(state);
-            std::cout << "set str state to " << state << ", ret = " << ret << '\n';
-            return OK;
-        });
-    add("i", "isPirWakeupEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isPirWakeupEnable();
-        std::cout << "pir wakeup state is " << enableDisable(enabled) << '\n';
-        return OK;
-    });
-    add("j:", "setPirWakeupEnable", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        bool ret = sys.setPirWakeupEnable(enable);
-        std::cout << "set pir wakeup to " << enable << ", ret = " << ret << '\n';
-        return OK;
-    });
+        printAtoiAndResult("set str state to ", &Sys::setSTRWakeLockState));
+    add("i", "isPirWakeupEnable", kNone, mSystemCtrl,
+        printResult("pir wakeup state is ", &Sys::isPirWakeupEnable, enableDisable));
+    add("j:", "setPirWakeupEnable", kRequired, mSystemCtrl,
+        printAtoiAndResult("set pir wakeup to ", &Sys::setPirWakeupEnable));
     add("c", "getCPUtemperature", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
         printNarrow(sys.getCPUtemperature());
         return OK;
     });
-    add("c", "isSignalPluginWakeup", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isSignalPluginWakeup();
-        std::cout << "get signal plugin wakeup state: " << enableDisable(enabled) << '\n';
-        return OK;
-    });
+    add("c", "isSignalPluginWakeup", kNone, mSystemCtrl,
+        printResult("get signal plugin wakeup state: ", &Sys::isSignalPluginWakeup,
+                    enableDisable));
     add("g:", "setSignalPluginWakeup", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool enable = atoi(in.text) != 0;
-            bool ret = sys.setSignalPluginWakeup(enable);
-            std::cout << "set signal plugin wakeup state to " << enable << ", ret = " << ret
-                      << '\n';
-            return OK;
-        });
-    add("x", "isCecWakeupEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isCecWakeupEnable();
-        std::cout << "cec wakeup state: " << enableDisable(enabled) << '\n';
-        return OK;
-    });
-    add("y:", "setCecWakeupEnable", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        bool ret = sys.setCecWakeupEnable(enable);
-        std::cout << "set cec wakeup state to " << enable << ", ret = " << ret << '\n';
-        return OK;
-    });
-    add("d", "getWakeDelayLinkToID", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool link = sys.getWakeDelayLinkToID();
-        std::cout << "wakedelay link id: " << link << '\n';
-        return OK;
-    });
+        printAtoiAndResult("set signal plugin wakeup state to ", &Sys::setSignalPluginWakeup));
+    add("x", "isCecWakeupEnable", kNone, mSystemCtrl,
+        printResult("cec wakeup state: ", &Sys::isCecWakeupEnable, enableDisable));
+    add("y:", "setCecWakeupEnable", kRequired, mSystemCtrl,
+        printAtoiAndResult("set cec wakeup state to ", &Sys::setCecWakeupEnable));
+    add("d", "getWakeDelayLinkToID", kNone, mSystemCtrl,
+        printResult("wakedelay link id: ", &Sys::getWakeDelayLinkToID));
     add("e:", "setWakeDelayLinkToID", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool link = atoi(in.text) != 0;
-            bool ret = sys.setWakeDelayLinkToID(link);
-            std::cout << "set wakedelay link id = " << link << ", ret = " << ret << '\n';
-            return OK;
-        });
-    add("r", "isRemoteCtrlWakeupEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isRemoteCtrlWakeupEnable();
-        std::cout << "remote ctrl wakeup state: " << enableDisable(enabled) << '\n';
-        return OK;
-    });
+        printAtoiAndResult("set wakedelay link id = ", &Sys::setWakeDelayLinkToID));
+    add("r", "isRemoteCtrlWakeupEnable", kNone, mSystemCtrl,
+        printResult("remote ctrl wakeup state: ", &Sys::isRemoteCtrlWakeupEnable, enableDisable));
     add("l:", "setRemoteCtrlWakeupEnable", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool enable = atoi(in.text) != 0;
-            bool ret = sys.setRemoteCtrlWakeupEnable(enable);
-            std::cout << "set remote ctrl wakeup to " << enable << ", ret = " << ret << '\n';
-            return OK;
-        });
-    add("s", "isRs232WakeupEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isRs232WakeupEnable();
-        std::cout << "rs232 wakeup state: " << enableDisable(enabled) << '\n';
-        return OK;
-    });
+        printAtoiAndResult("set remote ctrl wakeup to ", &Sys::setRemoteCtrlWakeupEnable));
+    add("s", "isRs232WakeupEnable", kNone, mSystemCtrl,
+        printResult("rs232 wakeup state: ", &Sys::isRs232WakeupEnable, enableDisable));
     add("u:", "setRS232WakeupEnable", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool enable = atoi(in.text) != 0;
-            bool ret = sys.setRS232WakeupEnable(enable);
-            std::cout << "set rs232 wakeup to " << enable << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printAtoiAndResult("set rs232 wakeup to ", &Sys::setRS232WakeupEnable));
     add("k:", "setlockkeyIR", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
         if (in.missing()) return USAGE;
         std::vector<std::string> field = in.fields(2);  // enable,device
@@ -263,168 +161,68 @@ Status SystemCtrlCommand::registerAllOptions() {
                   << ", lock_device = " << field[1] << ", ret = " << ret << '\n';
         return OK;
     });
-    add("v", "isRtcWakeupEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.isRtcWakeupEnable();
-        std::cout << "get rtc wakeup state: " << enableDisable(enabled) << '\n';
-        return OK;
-    });
-    add("w:", "setRtcWakeupEnable", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        bool ret = sys.setRtcWakeupEnable(enable);
-        std::cout << "set rtc wakeup state to " << enable << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("v", "isRtcWakeupEnable", kNone, mSystemCtrl,
+        printResult("get rtc wakeup state: ", &Sys::isRtcWakeupEnable, enableDisable));
+    add("w:", "setRtcWakeupEnable", kRequired, mSystemCtrl,
+        printAtoiAndResult("set rtc wakeup state to ", &Sys::setRtcWakeupEnable));
     add("e", "getPirWakeupDelay", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
         int minutes = sys.getPirWakeupDelay();
         std::cout << "pir wakeup delay: " << minutes << " minutes" << '\n';
         return OK;
     });
-    add("d:", "setPirWakeupDelay", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool delay = atoi(in.text) != 0;
-        bool ret = sys.setPirWakeupDelay(delay);
-        std::cout << "set pir wakeup delay: " << delay << " min, ret = " << ret << '\n';
-        return OK;
-    });
+    add("d:", "setPirWakeupDelay", kRequired, mSystemCtrl,
+        printAtoiAndResult("set pir wakeup delay: ", &Sys::setPirWakeupDelay, " min, ret = "));
 
     // Boot logo, HDMI switch output, aena state and device reset.
-    add("b", "getBootLogoEnable", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool enabled = sys.getBootLogoEnable();
-        std::cout << "getBootLogoEnable: " << enabled << '\n';
-        return OK;
-    });
-    add("f:", "setBootLogoEnable", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        bool enable = atoi(in.text) != 0;
-        sys.setBootLogoEnable(enable);
-        std::cout << "setBootLogoEnable " << enableDisable(enable) << '\n';
-        return OK;
-    });
+    add("b", "getBootLogoEnable", kNone, mSystemCtrl,
+        printResult("getBootLogoEnable: ", &Sys::getBootLogoEnable));
+    add("f:", "setBootLogoEnable", kRequired, mSystemCtrl,
+        printAtoi("setBootLogoEnable ", &Sys::setBootLogoEnable, enableDisable));
     add("m:", "enable_hdmi_switch_tx", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            bool enable = atoi(in.text) != 0;
-            sys.enable_hdmi_switch_tx(enable);
-            std::cout << "enable_hdmi_switch_tx: " << enableDisable(enable) << '\n';
-            return OK;
-        });
-    add("n:", "getAenaState", kRequired, mSystemCtrl, [](ISystemCtrl& sys, const Input& in) {
-        if (in.missing()) return USAGE;
-        int aenaId = atoi(in.text);
-        int state = sys.getAenaState(aenaId);
-        std::cout << "aena_id: " << aenaId << ", aena_val: " << state << '\n';
-        return OK;
-    });
-    add("reset", "doDeviceReset", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        int ret = sys.doDeviceReset();
-        std::cout << "doDeviceReset: " << ret << '\n';
-        return OK;
-    });
+        printAtoi("enable_hdmi_switch_tx: ", &Sys::enable_hdmi_switch_tx, enableDisable));
+    add("n:", "getAenaState", kRequired, mSystemCtrl,
+        printAtoiAndResult("aena_id: ", &Sys::getAenaState, ", aena_val: "));
+    add("reset", "doDeviceReset", kNone, mSystemCtrl,
+        printResult("doDeviceReset: ", &Sys::doDeviceReset));
 
     // Boot media.
-    add("resetanim", "resetBootAnimation", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool ret = sys.resetBootAnimation();
-        std::cout << "resetBootAnimation: " << ret << '\n';
-        return OK;
-    });
-    add("resetvideo", "resetBootVideo", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool ret = sys.resetBootVideo();
-        std::cout << "resetBootVideo: " << ret << '\n';
-        return OK;
-    });
-    add("resetlogo", "resetBootLogo", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        bool ret = sys.resetBootLogo();
-        std::cout << "resetBootLogo: " << ret << '\n';
-        return OK;
-    });
+    add("resetanim", "resetBootAnimation", kNone, mSystemCtrl,
+        printResult("resetBootAnimation: ", &Sys::resetBootAnimation));
+    add("resetvideo", "resetBootVideo", kNone, mSystemCtrl,
+        printResult("resetBootVideo: ", &Sys::resetBootVideo));
+    add("resetlogo", "resetBootLogo", kNone, mSystemCtrl,
+        printResult("resetBootLogo: ", &Sys::resetBootLogo));
     add("getCustomBootMediaPath", "getCustomBootMediaPath", kNone, mSystemCtrl,
         [](ISystemCtrl& sys, const Input&) {
             printNarrow(sys.getCustomBootMediaPath());
             return OK;
         });
     add("setCustomBootMediaType", "setCustomBootMediaType", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int type = atoi(in.text);
-            sys.setCustomBootMediaType(type);
-            std::cout << "setCustomBootMediaType " << (type != 0 ? "bootvideo" : "bootanimation")
-                      << '\n';
-            return OK;
-        },
+        printAtoi("setCustomBootMediaType ", &Sys::setCustomBootMediaType, bootMediaName),
         "0-1:\n --0:bootanimation --1:bootvideo");
 
     // Performance and power.
     add("keepCpuInPerformance", "keepCpuInPerformance", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int seconds = atoi(in.text);
-            bool ret = sys.keepCpuInPerformance(seconds);
-            std::cout << "keepCpuInPerformance " << seconds << "s" << " return=" << ret << '\n';
-            return OK;
-        },
+        printAtoiAndResult("keepCpuInPerformance ", &Sys::keepCpuInPerformance, "s return="),
         "seconds:[1-3600]");
     add("cancelCpuInPerformance", "cancelCpuInPerformance", kNone, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input&) {
-            bool ret = sys.cancelCpuInPerformance();
-            std::cout << "cancelCpuInPerformance return=" << ret << '\n';
-            return OK;
-        });
+        printResult("cancelCpuInPerformance return=", &Sys::cancelCpuInPerformance));
     add("keepGpuInPerformance", "keepGpuInPerformance", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int seconds = atoi(in.text);
-            bool ret = sys.keepGpuInPerformance(seconds);
-            std::cout << "keepGpuInPerformance " << seconds << "s" << " return=" << ret << '\n';
-            return OK;
-        },
+        printAtoiAndResult("keepGpuInPerformance ", &Sys::keepGpuInPerformance, "s return="),
         "seconds:[1-3600]");
     add("cancelGpuInPerformance", "cancelGpuInPerformance", kNone, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input&) {
-            bool ret = sys.cancelGpuInPerformance();
-            std::cout << "cancelGpuInPerformance return=" << ret << '\n';
-            return OK;
-        });
-    add("getPowerMode", "getPowerMode", kNone, mSystemCtrl, [](ISystemCtrl& sys, const Input&) {
-        int mode = sys.getPowerMode();
-        std::cout << "getPowerMode return=" << mode << '\n';
-        return OK;
-    });
+        printResult("cancelGpuInPerformance return=", &Sys::cancelGpuInPerformance));
+    add("getPowerMode", "getPowerMode", kNone, mSystemCtrl,
+        printResult("getPowerMode return=", &Sys::getPowerMode));
     add("setPowerMode", "setPowerMode", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int mode = atoi(in.text);
-            bool ret = sys.setPowerMode(mode);
-            std::cout << "setPowerMode " << mode << " return=" << ret << '\n';
-            return OK;
-        },
-        "mode:[0-2]");
+        printAtoiAndResult("setPowerMode ", &Sys::setPowerMode, " return="), "mode:[0-2]");
     add("setCecCtlType", "setCecCtlType", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int type = atoi(in.text);
-            bool ret = sys.setCecCtlType(type);
-            std::cout << "setCecCtlType " << type << " return=" << ret << '\n';
-            return OK;
-        },
-        "type:[0-5]");
+        printAtoiAndResult("setCecCtlType ", &Sys::setCecCtlType, " return="), "type:[0-5]");
     add("setSarPowerMode", "setSarPowerMode", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int mode = atoi(in.text);
-            bool ret = sys.setSarPowerMode(mode);
-            std::cout << "setSarPowerMode " << mode << " return=" << ret << '\n';
-            return OK;
-        },
-        "mode:[0-1]");
+        printAtoiAndResult("setSarPowerMode ", &Sys::setSarPowerMode, " return="), "mode:[0-1]");
     // Takes an argument only to get past the parser; it is never read.
     add("getSarPowerMode", "getSarPowerMode", kRequired, mSystemCtrl,
-        [](ISystemCtrl& sys, const Input& in) {
-            if (in.missing()) return USAGE;
-            int mode = sys.getSarPowerMode();
-            std::cout << "getSarPowerMode " << " return=" << mode << '\n';
-            return OK;
-        });
+        needsArgument(printResult("getSarPowerMode  return=", &Sys::getSarPowerMode)));
     return OK;
 }
 
