@@ -163,6 +163,18 @@ auto printStoiAndResult(const char* label, R (I::*op)(int), const char* middle =
     };
 }
 
+// `label`, the argument as typed, and a newline; the call gets its atoi number and its answer,
+// if any, is not printed.
+template <typename I, typename R, typename P>
+auto printText(const char* label, R (I::*op)(P)) {
+    return [label, op](I& iface, const Input& in) -> Status {
+        if (in.missing()) return USAGE;
+        (iface.*op)(fromAtoi<P>(in.text));
+        std::cout << label << in.text << '\n';
+        return OK;
+    };
+}
+
 // `label`, the argument as typed, `middle`, the result of the call with its atoi number, and a
 // newline.
 template <typename I, typename R, typename P>

@@ -13,7 +13,7 @@ class AiNoiseCtrlCommand : public ListCommand {
 public:
     explicit AiNoiseCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "AiNoiseCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,16 +26,10 @@ AiNoiseCtrlCommand::AiNoiseCtrlCommand(DumpBrel& parent)
       mName("AiNoiseCtrl"),
       mAiNoiseCtrl(connect(&IBrelManager::getAiNoiseCtrl, "getAiNoiseCtrl() fail\n")) {}
 
-std::string AiNoiseCtrlCommand::getSimpleDescription() const {
-    return "AiNoiseCtrl Module";
-}
-
 Status AiNoiseCtrlCommand::registerAllOptions() {
     addHelp();
-    add("g", "getAiNoise", kNone, mAiNoiseCtrl, [](IAiNoiseCtrl& noise, const Input&) {
-        std::cout << "Current AI Noise val: " << noise.getAiNoise() << '\n';
-        return OK;
-    });
+    add("g", "getAiNoise", kNone, mAiNoiseCtrl,
+        printResult("Current AI Noise val: ", &IAiNoiseCtrl::getAiNoise));
     add("s:", "setAiNoise", kRequired, mAiNoiseCtrl, [](IAiNoiseCtrl& noise, const Input& in) {
         float value = 0.0f;
         if (!in.scanOne(value)) return USAGE;

@@ -16,7 +16,7 @@ class AudioCtrlCommand : public ListCommand {
 public:
     explicit AudioCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "AudioCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -67,17 +67,14 @@ AudioCtrlCommand::AudioCtrlCommand(DumpBrel& parent)
       mName("AudioCtrl"),
       mAudioCtrl(connect(&IBrelManager::getAudioCtrl, "getAudioCtrl() fail\n")) {}
 
-std::string AudioCtrlCommand::getSimpleDescription() const {
-    return "AudioCtrl Module";
-}
-
 Status AudioCtrlCommand::registerAllOptions() {
     using Audio = IAudioCtrl;
     addHelp();
     add("l:", "setAudioLineOutEnabled", kRequired, mAudioCtrl,
         printStoiAndResult("setAudioLineOutEnabled ", &Audio::setAudioLineOutEnabled, " ret= "));
     add("p:", "setAudioPathInternalEnabled", kRequired, mAudioCtrl,
-        printStoiAndResult("setAudioPathInternalEnabled ", &Audio::setAudioPathInternalEnabled, " ret= "));
+        printStoiAndResult("setAudioPathInternalEnabled ",
+                           &Audio::setAudioPathInternalEnabled, " ret= "));
     add("s:", "setSPDIFOutEnabled", kRequired, mAudioCtrl,
         printStoiAndResult("setSPDIFOutEnabled ", &Audio::setSPDIFOutEnabled, " ret= "));
     add("a", "isMicrophoneAvaliable", kNone, mAudioCtrl,
@@ -118,7 +115,8 @@ Status AudioCtrlCommand::registerAllOptions() {
     add("o:", "setBassOneChannelMute", kRequired, mAudioCtrl,
         setModuleStatus("setBassOneChannelMute ", &Audio::setBassOneChannelMute));
     add("x:", "getEQMode", kNone, mAudioCtrl, printResult("getEQMode ret= ", &Audio::getEQMode));
-    add("s:", "setEQMode", kRequired, mAudioCtrl, printResultForStoi("setEQMode ", &Audio::setEQMode, failOrSuccess));
+    add("s:", "setEQMode", kRequired, mAudioCtrl,
+        printResultForStoi("setEQMode ", &Audio::setEQMode, failOrSuccess));
     add("x:", "getAudioOutMode", kNone, mAudioCtrl,
         printResult("getAudioOutMode ret= ", &Audio::getAudioOutMode));
     add("s:", "setAudioOutMode", kRequired, mAudioCtrl,

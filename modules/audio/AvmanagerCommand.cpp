@@ -15,7 +15,7 @@ class AvmanagerCommand : public ListCommand {
 public:
     explicit AvmanagerCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "Avmanager Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -27,10 +27,6 @@ AvmanagerCommand::AvmanagerCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("AvManager"),
       mAvManagerCtrl(connect(&IBrelManager::getAvManagerCtrl, "getAvManagerCtrl() fail\n")) {}
-
-std::string AvmanagerCommand::getSimpleDescription() const {
-    return "Avmanager Module";
-}
 
 Status AvmanagerCommand::registerAllOptions() {
     using Av = IAvManagerCtrl;
@@ -103,13 +99,16 @@ Status AvmanagerCommand::registerAllOptions() {
     add("x", "getCameraPtzMode", kNone, mAvManagerCtrl,
         printResult("getCameraPtzMode: ", &Av::getCameraPtzMode));
     add("z:", "setCameraPtzMode", kRequired, mAvManagerCtrl,
-        printAtoiAndResult("setCameraPtzMode mode = ", &Av::setCameraPtzMode, " ret = ", oneOrZero));
+        printAtoiAndResult("setCameraPtzMode mode = ",
+                           &Av::setCameraPtzMode, " ret = ", oneOrZero));
     add("z:", "setCameraPipMode", kRequired, mAvManagerCtrl,
-        printAtoiAndResult("setCameraPipMode mode = ", &Av::setCameraPipMode, " ret = ", oneOrZero));
+        printAtoiAndResult("setCameraPipMode mode = ",
+                           &Av::setCameraPipMode, " ret = ", oneOrZero));
     add("x", "getCameraPipMode", kNone, mAvManagerCtrl,
         printResult("getCameraPipMode: ", &Av::getCameraPipMode));
     add("z:", "setCameraAisrStatus", kRequired, mAvManagerCtrl,
-        printAtoiAndResult("setCameraAisrStatus mode = ", &Av::setCameraAisrStatus, " ret = ", oneOrZero));
+        printAtoiAndResult("setCameraAisrStatus mode = ",
+                           &Av::setCameraAisrStatus, " ret = ", oneOrZero));
     add("x", "getCameraAisrStatus", kNone, mAvManagerCtrl,
         printResult("getCameraAisrStatus: ", &Av::getCameraAisrStatus));
     add("z:", "setCameraHdr", kRequired, mAvManagerCtrl,

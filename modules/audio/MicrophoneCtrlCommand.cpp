@@ -13,7 +13,7 @@ class MicrophoneCtrlCommand : public ListCommand {
 public:
     explicit MicrophoneCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "MicrophoneCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -25,10 +25,6 @@ MicrophoneCtrlCommand::MicrophoneCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("MicrophoneCtrl"),
       mMicrophoneCtrl(connect(&IBrelManager::getMicrophoneCtrl, "getMicrophoneCtrl() fail\n")) {}
-
-std::string MicrophoneCtrlCommand::getSimpleDescription() const {
-    return "MicrophoneCtrl Module";
-}
 
 // This table has no help row: -h and --help are unknown options here.
 Status MicrophoneCtrlCommand::registerAllOptions() {

@@ -13,7 +13,7 @@ class SoundScreenAngleCtrlCommand : public ListCommand {
 public:
     explicit SoundScreenAngleCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SoundScreenAngleCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +26,6 @@ SoundScreenAngleCtrlCommand::SoundScreenAngleCtrlCommand(DumpBrel& parent)
       mName("SoundScreenAngleCtrl"),
       mSoundScreenAngleCtrl(
           connect(&IBrelManager::getSoundScreenAngleCtrl, "getSoundScreenAngleCtrl() fail\n")) {}
-
-std::string SoundScreenAngleCtrlCommand::getSimpleDescription() const {
-    return "SoundScreenAngleCtrl Module";
-}
 
 Status SoundScreenAngleCtrlCommand::registerAllOptions() {
     addHelp();

@@ -14,7 +14,7 @@ class TeaDspCtrlCommand : public ListCommand {
 public:
     explicit TeaDspCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "TeaDspCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -63,16 +63,10 @@ TeaDspCtrlCommand::TeaDspCtrlCommand(DumpBrel& parent)
       mName("TeaDspCtrl"),
       mTeaDspCtrl(connect(&IBrelManager::getTeaDspCtrl, "getTeaDspCtrl() fail\n")) {}
 
-std::string TeaDspCtrlCommand::getSimpleDescription() const {
-    return "TeaDspCtrl Module";
-}
-
 Status TeaDspCtrlCommand::registerAllOptions() {
     addHelp();
-    add("i", "GetDeviceInfo", kNone, mTeaDspCtrl, [](ITeaDspCtrl& dsp, const Input&) {
-        std::cout << "Get Device Info: " << dsp.GetDeviceInfo() << '\n';
-        return OK;
-    });
+    add("i", "GetDeviceInfo", kNone, mTeaDspCtrl,
+        printResult("Get Device Info: ", &ITeaDspCtrl::GetDeviceInfo));
     add("m:", "getDeviceMute", kRequired, mTeaDspCtrl,
         [](ITeaDspCtrl& dsp, const Input& in) {
             int streamType = 0;
@@ -95,11 +89,9 @@ Status TeaDspCtrlCommand::registerAllOptions() {
                              mode, &ITeaDspCtrl::SetDevicePoeSinkRouteMode, dsp);
         },
         "\n1 or 2 or 3:\n -- 1:unknown mode\n -- 2:only main device\n -- 3:both mode\n");
-    add("g", "GetDevicePoeSinkRouteMode", kNone, mTeaDspCtrl, [](ITeaDspCtrl& dsp, const Input&) {
-        std::cout << "GetDevicePoeSinkRouteMode gintret =" << dsp.GetDevicePoeSinkRouteMode()
-                  << '\n';
-        return OK;
-    });
+    add("g", "GetDevicePoeSinkRouteMode", kNone, mTeaDspCtrl,
+        printResult("GetDevicePoeSinkRouteMode gintret =",
+                    &ITeaDspCtrl::GetDevicePoeSinkRouteMode));
     add("d:::::", "DevicePortAttachStateUpdate", kRequired, mTeaDspCtrl,
         [](ITeaDspCtrl& dsp, const Input& in) {
             // The short form carries its argument only when attached to the letter.
@@ -133,10 +125,7 @@ Status TeaDspCtrlCommand::registerAllOptions() {
         " -- attach 表示插入还是拔出\n"
         " -- attach_message 端口拔插事件详细描述\n");
     add("j", "GetAllDeviceInformation", kNone, mTeaDspCtrl,
-        [](ITeaDspCtrl& dsp, const Input&) {
-            std::cout << "Get ALL Device Info: " << dsp.GetAllDeviceInformation() << '\n';
-            return OK;
-        },
+        printResult("Get ALL Device Info: ", &ITeaDspCtrl::GetAllDeviceInformation),
         "返回所有模组设备信息");
     add("k:", "SetDeviceLineoutSinkRouteMode", kRequired, mTeaDspCtrl,
         [](ITeaDspCtrl& dsp, const Input& in) {
@@ -150,18 +139,11 @@ Status TeaDspCtrlCommand::registerAllOptions() {
         "\n1 or 2 or 3:\n -- 1:未知工作模式\n -- 2:单lineout输出工作模式\n"
         " -- 3:lineout+speaker工作模式\n");
     add("l", "GetDeviceLineoutSinkRouteMode", kNone, mTeaDspCtrl,
-        [](ITeaDspCtrl& dsp, const Input&) {
-            std::cout << "GetDeviceLineoutSinkRouteMode gintret_get_liout ="
-                      << dsp.GetDeviceLineoutSinkRouteMode() << '\n';
-            return OK;
-        },
+        printResult("GetDeviceLineoutSinkRouteMode gintret_get_liout =",
+                    &ITeaDspCtrl::GetDeviceLineoutSinkRouteMode),
         "获取Lineout端口的输出模式");
     add("n", "GetDevicePortAttachInformation", kNone, mTeaDspCtrl,
-        [](ITeaDspCtrl& dsp, const Input&) {
-            std::cout << "Get Device Port Attach Info: " << dsp.GetDevicePortAttachInformation()
-                      << '\n';
-            return OK;
-        });
+        printResult("Get Device Port Attach Info: ", &ITeaDspCtrl::GetDevicePortAttachInformation));
     add("o:", "SetDeviceOffHook", kRequired, mTeaDspCtrl,
         [](ITeaDspCtrl& dsp, const Input& in) {
             int isOffhook = 0;
@@ -183,11 +165,8 @@ Status TeaDspCtrlCommand::registerAllOptions() {
         },
         "\n0 or 1 :\n -- （1:静音/0:非静音）\n");
     add("q", "GetDeviceMicrophoneOverallMute", kNone, mTeaDspCtrl,
-        [](ITeaDspCtrl& dsp, const Input&) {
-            std::cout << "GetDeviceMicrophoneOverallMute gintret_get_mic_mute ="
-                      << dsp.GetDeviceMicrophoneOverallMute() << '\n';
-            return OK;
-        },
+        printResult("GetDeviceMicrophoneOverallMute gintret_get_mic_mute =",
+                    &ITeaDspCtrl::GetDeviceMicrophoneOverallMute),
         "获取麦克风全局mute状态");
     add("r:", "SetDeviceRingCall", kRequired, mTeaDspCtrl,
         [](ITeaDspCtrl& dsp, const Input& in) {

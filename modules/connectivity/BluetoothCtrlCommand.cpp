@@ -14,7 +14,7 @@ class BluetoothCtrlCommand : public ListCommand {
 public:
     explicit BluetoothCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "BluetoothCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -27,20 +27,13 @@ BluetoothCtrlCommand::BluetoothCtrlCommand(DumpBrel& parent)
       mName("BluetoothCtrl"),
       mBluetoothCtrl(connect(&IBrelManager::getBluetoothCtrl, "getBluetoothCtrl() fail\n")) {}
 
-std::string BluetoothCtrlCommand::getSimpleDescription() const {
-    return "BluetoothCtrl Module";
-}
-
 Status BluetoothCtrlCommand::registerAllOptions() {
     addHelp();
     add("w", "isBleWakeup", kNone, mBluetoothCtrl,
         printResult("isBleWakeup: ", &IBluetoothCtrl::isBleWakeup));
     // The service gives no answer here: the line repeats the argument as typed.
-    add("s:", "setBleWakeup", kRequired, mBluetoothCtrl, [](IBluetoothCtrl& bt, const Input& in) {
-        bt.setBleWakeup(atoi(in.text) != 0);
-        std::cout << "setBleWakeup: " << in.text << "\n";
-        return OK;
-    });
+    add("s:", "setBleWakeup", kRequired, mBluetoothCtrl,
+        printText("setBleWakeup: ", &IBluetoothCtrl::setBleWakeup));
     return OK;
 }
 

@@ -14,7 +14,7 @@ class CameraCtrlCommand : public ListCommand {
 public:
     explicit CameraCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "CameraCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +26,6 @@ CameraCtrlCommand::CameraCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("CameraCtrl"),
       mCameraCtrl(connect(&IBrelManager::getCameraCtrl, "getCameraCtrl() fail\n")) {}
-
-std::string CameraCtrlCommand::getSimpleDescription() const {
-    return "CameraCtrl Module";
-}
 
 Status CameraCtrlCommand::registerAllOptions() {
     addHelp();

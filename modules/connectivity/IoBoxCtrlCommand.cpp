@@ -11,7 +11,7 @@ class IoBoxCtrlCommand : public ListCommand {
 public:
     explicit IoBoxCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "IoBoxCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -23,10 +23,6 @@ IoBoxCtrlCommand::IoBoxCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("IoBoxCtrl"),
       mIoBoxCtrl(connect(&IBrelManager::getIoBoxCtrl, "getIoBoxCtrl() fail\n")) {}
-
-std::string IoBoxCtrlCommand::getSimpleDescription() const {
-    return "IoBoxCtrl Module";
-}
 
 Status IoBoxCtrlCommand::registerAllOptions() {
     addHelp();

@@ -17,7 +17,7 @@ class NetworkCtrlCommand : public ListCommand {
 public:
     explicit NetworkCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "NetworkCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -29,10 +29,6 @@ NetworkCtrlCommand::NetworkCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("NetworkCtrl"),
       mNetworkCtrl(connect(&IBrelManager::getNetworkCtrl, "getNetworkCtrl() fail\n")) {}
-
-std::string NetworkCtrlCommand::getSimpleDescription() const {
-    return "NetworkCtrl Module";
-}
 
 // Several letters stand twice in this table (d, e): the last row of a letter runs, and the first
 // spec of the letter decides whether it takes an argument. GetWOLEnable, GetWOWEnable and

@@ -14,7 +14,7 @@ class PcModuleCtrlCommand : public ListCommand {
 public:
     explicit PcModuleCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "PcModuleCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +26,6 @@ PcModuleCtrlCommand::PcModuleCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("PcModuleCtrl"),
       mPcModuleCtrl(connect(&IBrelManager::getPcModuleCtrl, "getPcModuleCtrl() fail\n")) {}
-
-std::string PcModuleCtrlCommand::getSimpleDescription() const {
-    return "PcModuleCtrl Module";
-}
 
 Status PcModuleCtrlCommand::registerAllOptions() {
     addHelp();
@@ -48,13 +44,8 @@ Status PcModuleCtrlCommand::registerAllOptions() {
                 std::cout << static_cast<int32_t>(mode) << '\n';
             return OK;
         });
-    add("m:", "setPcBootMode", kRequired, mPcModuleCtrl, [](IPcModuleCtrl& pc, const Input& in) {
-        if (in.missing()) return USAGE;
-        int mode = atoi(in.text);
-        bool ret = pc.setPcBootMode(mode);
-        std::cout << "setPcBootMode: " << mode << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("m:", "setPcBootMode", kRequired, mPcModuleCtrl,
+        printAtoiAndResult("setPcBootMode: ", &IPcModuleCtrl::setPcBootMode, ", ret = "));
     add("g", "getPcBootMode", kNone, mPcModuleCtrl,
         printResult("getPcBootMode: ", &IPcModuleCtrl::getPcBootMode));
     return OK;

@@ -15,7 +15,7 @@ class Rs232CtrlCommand : public ListCommand {
 public:
     explicit Rs232CtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "Rs232Ctrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -27,10 +27,6 @@ Rs232CtrlCommand::Rs232CtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("Rs232Ctrl"),
       mRs232Ctrl(connect(&IBrelManager::getRs232Ctrl, "getRs232Ctrl() fail\n")) {}
-
-std::string Rs232CtrlCommand::getSimpleDescription() const {
-    return "Rs232Ctrl Module";
-}
 
 // getEmmcSize and getRamSize have no letter: only their long names reach them.
 Status Rs232CtrlCommand::registerAllOptions() {

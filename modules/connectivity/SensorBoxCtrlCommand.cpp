@@ -11,7 +11,7 @@ class SensorBoxCtrlCommand : public ListCommand {
 public:
     explicit SensorBoxCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SensorBoxCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -23,10 +23,6 @@ SensorBoxCtrlCommand::SensorBoxCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SensorBoxCtrl"),
       mSensorBoxCtrl(connect(&IBrelManager::getSensorBoxCtrl, "getSensorBoxCtrl() fail\n")) {}
-
-std::string SensorBoxCtrlCommand::getSimpleDescription() const {
-    return "SensorBoxCtrl Module";
-}
 
 Status SensorBoxCtrlCommand::registerAllOptions() {
     addHelp();

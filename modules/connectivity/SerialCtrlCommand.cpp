@@ -14,7 +14,7 @@ class SerialCtrlCommand : public ListCommand {
 public:
     explicit SerialCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SerialCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +26,6 @@ SerialCtrlCommand::SerialCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SerialCtrl"),
       mSerialCtrl(connect(&IBrelManager::getSerialCtrl, "getSerialCtrl() fail\n")) {}
-
-std::string SerialCtrlCommand::getSimpleDescription() const {
-    return "SerialCtrl Module";
-}
 
 // Three short specs here are whole words: every letter of them is a letter of the option
 // string, but only S, s and g find a row, and as none of them is followed by a colon where it
@@ -59,13 +55,7 @@ Status SerialCtrlCommand::registerAllOptions() {
             return OK;
         });
     add("getSerialDeviceId", "getSerialDeviceId", kRequired, mSerialCtrl,
-        [](ISerialCtrl& serial, const Input& in) {
-            if (in.missing()) return USAGE;
-            int device = atoi(in.text);
-            int id = serial.getSerialDeviceId(device);
-            std::cout << "Device: " << device << " ID: " << id << '\n';
-            return OK;
-        });
+        printAtoiAndResult("Device: ", &ISerialCtrl::getSerialDeviceId, " ID: "));
     return OK;
 }
 

@@ -16,7 +16,7 @@ class TxbCtrlCommand : public ListCommand {
 public:
     explicit TxbCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "TxbCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -28,10 +28,6 @@ TxbCtrlCommand::TxbCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("TxbCtrl"),
       mTxbCtrl(connect(&IBrelManager::getTxbCtrl, "getTxbCtrl() fail\n")) {}
-
-std::string TxbCtrlCommand::getSimpleDescription() const {
-    return "TxbCtrl Module";
-}
 
 Status TxbCtrlCommand::registerAllOptions() {
     addHelp();

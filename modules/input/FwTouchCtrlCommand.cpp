@@ -13,7 +13,7 @@ class FwTouchCtrlCommand : public ListCommand {
 public:
     explicit FwTouchCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "FwTouchCtrl Module"; }
     Status registerAllOptions() override;
 
     void printFwTouchInfo(const std::vector<EntityFwTouch>& list);
@@ -28,10 +28,6 @@ FwTouchCtrlCommand::FwTouchCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("FwTouchCtrl"),
       mFwTouchCtrl(connect(&IBrelManager::getFwTouchCtrl, "getFwTouchCtrl() fail\n")) {}
-
-std::string FwTouchCtrlCommand::getSimpleDescription() const {
-    return "FwTouchCtrl Module";
-}
 
 void FwTouchCtrlCommand::printFwTouchInfo(const std::vector<EntityFwTouch>& list) {
     for (const EntityFwTouch& fw : list) {

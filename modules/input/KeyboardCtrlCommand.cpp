@@ -15,7 +15,7 @@ class KeyboardCtrlCommand : public ListCommand {
 public:
     explicit KeyboardCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "KeyboardCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -27,10 +27,6 @@ KeyboardCtrlCommand::KeyboardCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("KeyboardCtrl"),
       mKeyboardCtrl(connect(&IBrelManager::getKeyboardCtrl, "getKeyboardCtrl() fail\n")) {}
-
-std::string KeyboardCtrlCommand::getSimpleDescription() const {
-    return "KeyboardCtrl Module";
-}
 
 Status KeyboardCtrlCommand::registerAllOptions() {
     addHelp();

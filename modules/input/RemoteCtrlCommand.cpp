@@ -7,6 +7,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IRemoteCtrl.h"
 
 namespace android {
@@ -16,7 +17,7 @@ class RemoteCtrlCommand : public ListCommand {
 public:
     explicit RemoteCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "RemoteCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -29,22 +30,12 @@ RemoteCtrlCommand::RemoteCtrlCommand(DumpBrel& parent)
       mName("RemoteCtrl"),
       mRemoteCtrl(connect(&IBrelManager::getRemoteCtrl, "getRemoteCtrl() fail\n")) {}
 
-std::string RemoteCtrlCommand::getSimpleDescription() const {
-    return "RemoteCtrl Module";
-}
-
 Status RemoteCtrlCommand::registerAllOptions() {
     addHelp();
-    add("d", "disableRemoteCtrl", kNone, mRemoteCtrl, [](IRemoteCtrl& remote, const Input&) {
-        bool ret = remote.disableRemoteCtrl();
-        std::cout << "disableRemoteCtrl: " << ret << '\n';
-        return OK;
-    });
-    add("e", "enableRemoteCtrl", kNone, mRemoteCtrl, [](IRemoteCtrl& remote, const Input&) {
-        bool ret = remote.enableRemoteCtrl();
-        std::cout << "enableRemoteCtrl: " << ret << '\n';
-        return OK;
-    });
+    add("d", "disableRemoteCtrl", kNone, mRemoteCtrl,
+        printResult("disableRemoteCtrl: ", &IRemoteCtrl::disableRemoteCtrl));
+    add("e", "enableRemoteCtrl", kNone, mRemoteCtrl,
+        printResult("enableRemoteCtrl: ", &IRemoteCtrl::enableRemoteCtrl));
     add("g:", "getParameter", kRequired, mRemoteCtrl, [](IRemoteCtrl& remote, const Input& in) {
         String16 value = remote.getParameter(String16(in.text));
         std::cout << "getParameter: " << in.text << "value: " << String8(value).c_str() << '\n';

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ISmartPenModeCtrl.h"
 
 namespace android {
@@ -14,7 +15,7 @@ class SmartPenModeCtrlCommand : public ListCommand {
 public:
     explicit SmartPenModeCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SmartPenModeCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +27,6 @@ SmartPenModeCtrlCommand::SmartPenModeCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SmartPenModeCtrl"),
       mSmartPenModeCtrl(connect(&IBrelManager::getSmartPenModeCtrl, "getSmartPenModeCtrl() fail\n")) {}
-
-std::string SmartPenModeCtrlCommand::getSimpleDescription() const {
-    return "SmartPenModeCtrl Module";
-}
 
 Status SmartPenModeCtrlCommand::registerAllOptions() {
     addHelp();
@@ -47,10 +44,8 @@ Status SmartPenModeCtrlCommand::registerAllOptions() {
             std::cout << "setSmartPenMode: " << mode << ", ret = " << ret << '\n';
             return OK;
         });
-    add("g", "getSmartPenMode", kNone, mSmartPenModeCtrl, [](ISmartPenModeCtrl& pen, const Input&) {
-        std::cout << "getSmartPenMode: " << pen.getSmartPenMode() << '\n';
-        return OK;
-    });
+    add("g", "getSmartPenMode", kNone, mSmartPenModeCtrl,
+        printResult("getSmartPenMode: ", &ISmartPenModeCtrl::getSmartPenMode));
     return OK;
 }
 

@@ -9,6 +9,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IFwTouchCtrl.h"
 #include "service/ITouchCtrl.h"
 
@@ -20,7 +21,7 @@ class TouchCtrlCommand : public ListCommand {
 public:
     explicit TouchCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "TouchCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -37,10 +38,6 @@ TouchCtrlCommand::TouchCtrlCommand(DumpBrel& parent) : ListCommand(parent), mNam
         mFwTouchCtrl = manager->getFwTouchCtrl();
     }
     if (mTouchCtrl == nullptr) fputs("getTouchCtrl() fail\n", stderr);
-}
-
-std::string TouchCtrlCommand::getSimpleDescription() const {
-    return "TouchCtrl Module";
 }
 
 Status TouchCtrlCommand::registerAllOptions() {
@@ -106,10 +103,8 @@ Status TouchCtrlCommand::registerAllOptions() {
         std::cout << "setPressureMode: " << mode << ", ret = " << ret << '\n';
         return OK;
     });
-    add("gmo", "getPressureMode", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
-        std::cout << "getPressureMode: " << touch.getPressureMode() << '\n';
-        return OK;
-    });
+    add("gmo", "getPressureMode", kNone, mTouchCtrl,
+        printResult("getPressureMode: ", &ITouchCtrl::getPressureMode));
     add("saf:", "setAndroidForbiddenState", kRequired, mTouchCtrl,
         [](ITouchCtrl& touch, const Input& in) {
             if (in.missing()) return USAGE;
@@ -141,20 +136,12 @@ Status TouchCtrlCommand::registerAllOptions() {
                       << '\n';
             return OK;
         });
-    add("f", "getTouchSmothingFliter", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
-        std::cout << "getTouchSmothingFliter: " << touch.getTouchSmothingFliter() << '\n';
-        return OK;
-    });
+    add("f", "getTouchSmothingFliter", kNone, mTouchCtrl,
+        printResult("getTouchSmothingFliter: ", &ITouchCtrl::getTouchSmothingFliter));
     add("tarm", "getTouchAreaRecognitionMethod", kNone, mTouchCtrl,
-        [](ITouchCtrl& touch, const Input&) {
-            std::cout << "getTouchAreaRecognitionMethod: " << touch.getTouchAreaRecognitionMethod()
-                      << '\n';
-            return OK;
-        });
-    add("gpn", "getpennum", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
-        std::cout << "getpennum: " << touch.getpennum() << '\n';
-        return OK;
-    });
+        printResult("getTouchAreaRecognitionMethod: ", &ITouchCtrl::getTouchAreaRecognitionMethod));
+    add("gpn", "getpennum", kNone, mTouchCtrl,
+        printResult("getpennum: ", &ITouchCtrl::getpennum));
     add("spn", "setpennum", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
         if (in.missing()) return USAGE;
         int value = atoi(in.text);

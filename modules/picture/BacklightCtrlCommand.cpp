@@ -4,6 +4,7 @@
 #include <string>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IBacklightCtrl.h"
 
 namespace android {
@@ -13,7 +14,7 @@ class BacklightCtrlCommand : public ListCommand {
 public:
     explicit BacklightCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "BacklightCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,17 +27,10 @@ BacklightCtrlCommand::BacklightCtrlCommand(DumpBrel& parent)
       mName("BacklightCtrl"),
       mBacklightCtrl(connect(&IBrelManager::getBacklightCtrl, "getBacklightCtrl() fail\n")) {}
 
-std::string BacklightCtrlCommand::getSimpleDescription() const {
-    return "BacklightCtrl Module";
-}
-
 Status BacklightCtrlCommand::registerAllOptions() {
     addHelp();
     add("g", "getScreenBrightness", kNone, mBacklightCtrl,
-        [](IBacklightCtrl& backlight, const Input&) {
-            std::cout << "ScreenBrightness = " << backlight.getScreenBrightness() << '\n';
-            return OK;
-        });
+        printResult("ScreenBrightness = ", &IBacklightCtrl::getScreenBrightness));
     add("s:", "setScreenBrightness", kRequired, mBacklightCtrl,
         [](IBacklightCtrl& backlight, const Input& in) {
             if (in.missing()) return USAGE;
@@ -45,10 +39,7 @@ Status BacklightCtrlCommand::registerAllOptions() {
             return OK;
         });
     add("m", "getScreenMaxBrightness", kNone, mBacklightCtrl,
-        [](IBacklightCtrl& backlight, const Input&) {
-            std::cout << "CurMaxBrightness = " << backlight.getScreenMaxBrightness() << '\n';
-            return OK;
-        });
+        printResult("CurMaxBrightness = ", &IBacklightCtrl::getScreenMaxBrightness));
     add("b:", "setScreenMaxBrightness", kRequired, mBacklightCtrl,
         [](IBacklightCtrl& backlight, const Input& in) {
             if (in.missing()) return USAGE;

@@ -18,7 +18,7 @@ class ExtendDisplayCtrlCommand : public ListCommand {
 public:
     explicit ExtendDisplayCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "ExtendDisplayCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -57,10 +57,6 @@ ExtendDisplayCtrlCommand::ExtendDisplayCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("ExtendDisplayCtrl"),
       mExtendDisplayCtrl(connect(&IBrelManager::getExtendDisplayCtrl, "getExtendDisplayCtrl() fail\n")) {}
-
-std::string ExtendDisplayCtrlCommand::getSimpleDescription() const {
-    return "ExtendDisplayCtrl Module";
-}
 
 Status ExtendDisplayCtrlCommand::registerAllOptions() {
     addHelp();
@@ -118,11 +114,8 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             return OK;
         });
     add("m", "getExtendDisplayResolution", kNone, mExtendDisplayCtrl,
-        [](IExtendDisplayCtrl& display, const Input&) {
-            std::cout << "getExtendDisplayResolution: "
-                      << String8(display.getExtendDisplayResolution()).c_str() << '\n';
-            return OK;
-        });
+        printResult("getExtendDisplayResolution: ",
+                    &IExtendDisplayCtrl::getExtendDisplayResolution));
     return OK;
 }
 

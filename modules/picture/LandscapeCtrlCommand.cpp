@@ -14,7 +14,7 @@ class LandscapeCtrlCommand : public ListCommand {
 public:
     explicit LandscapeCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "LandscapeCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +26,6 @@ LandscapeCtrlCommand::LandscapeCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("LandscapeCtrl"),
       mLandscapeCtrl(connect(&IBrelManager::getLandscapeCtrl, "getLandscapeCtrl() fail\n")) {}
-
-std::string LandscapeCtrlCommand::getSimpleDescription() const {
-    return "LandscapeCtrl Module";
-}
 
 Status LandscapeCtrlCommand::registerAllOptions() {
     addHelp();

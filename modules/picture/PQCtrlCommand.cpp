@@ -15,7 +15,7 @@ class PQCtrlCommand : public ListCommand {
 public:
     explicit PQCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "PQCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -28,19 +28,18 @@ PQCtrlCommand::PQCtrlCommand(DumpBrel& parent)
       mName("PQCtrl"),
       mPQCtrl(connect(&IBrelManager::getPQCtrl, "getPQCtrol() fail\n")) {}
 
-std::string PQCtrlCommand::getSimpleDescription() const {
-    return "PQCtrl Module";
-}
-
 Status PQCtrlCommand::registerAllOptions() {
     using PQ = IPQCtrl;
     addHelp();
     add("x", "getPQRGain", kNone, mPQCtrl, printResult("Got R Gain: ", &PQ::getPQRGain));
-    add("r:", "setPQRGain", kRequired, mPQCtrl, printTextAndResult("Set R Gain: ", &PQ::setPQRGain));
+    add("r:", "setPQRGain", kRequired, mPQCtrl,
+        printTextAndResult("Set R Gain: ", &PQ::setPQRGain));
     add("y", "getPQGGain", kNone, mPQCtrl, printResult("Got G Gain: ", &PQ::getPQGGain));
-    add("g:", "setPQGGain", kRequired, mPQCtrl, printTextAndResult("Set G Gain: ", &PQ::setPQGGain));
+    add("g:", "setPQGGain", kRequired, mPQCtrl,
+        printTextAndResult("Set G Gain: ", &PQ::setPQGGain));
     add("z", "getPQBGain", kNone, mPQCtrl, printResult("Got B Gain: ", &PQ::getPQBGain));
-    add("b:", "setPQBGain", kRequired, mPQCtrl, printTextAndResult("Set B Gain: ", &PQ::setPQBGain));
+    add("b:", "setPQBGain", kRequired, mPQCtrl,
+        printTextAndResult("Set B Gain: ", &PQ::setPQBGain));
     add("b", "getColorTemp", kNone, mPQCtrl, printResult("Got Color Temp: ", &PQ::getColorTemp));
     add("c:", "setColorTemp", kRequired, mPQCtrl,
         printTextAndResult("Set Color Temp: ", &PQ::setColorTemp));
@@ -51,7 +50,8 @@ Status PQCtrlCommand::registerAllOptions() {
     add("x", "getHue", kNone, mPQCtrl, printResult("Got Hue: ", &PQ::getHue));
     add("b:", "setHue", kRequired, mPQCtrl, printTextAndResult("Set Hue: ", &PQ::setHue));
     add("u", "getContrast", kNone, mPQCtrl, printResult("Got Contrast: ", &PQ::getContrast));
-    add("c:", "setContrast", kRequired, mPQCtrl, printTextAndResult("Set Contrast: ", &PQ::setContrast));
+    add("c:", "setContrast", kRequired, mPQCtrl,
+        printTextAndResult("Set Contrast: ", &PQ::setContrast));
     add("k", "getSharpness", kNone, mPQCtrl, printResult("Got Sharpness: ", &PQ::getSharpness));
     add("s:", "setSharpness", kRequired, mPQCtrl,
         printTextAndResult("Set Sharpness: ", &PQ::setSharpness));
@@ -81,10 +81,14 @@ Status PQCtrlCommand::registerAllOptions() {
         printTextAndResult("SET_BGainWithoutSave: ", &PQ::setPQBGainWithoutSave));
 
     // From here on the lines are the operation's name, " = " and a value.
-    add("m", "getDBCEnable", kRequired, mPQCtrl, needsArgument(printResult("getDBCEnable = ", &PQ::getDBCEnable)));
-    add("n", "setDBCEnable", kRequired, mPQCtrl, printResultForAtoi("setDBCEnable = ", &PQ::setDBCEnable));
-    add("q", "getDCREnable", kRequired, mPQCtrl, needsArgument(printResult("getDCREnable = ", &PQ::getDCREnable)));
-    add("r", "setDCREnable", kRequired, mPQCtrl, printResultForAtoi("setDCREnable = ", &PQ::setDCREnable));
+    add("m", "getDBCEnable", kRequired, mPQCtrl, needsArgument(printResult("getDBCEnable = ",
+                                                                           &PQ::getDBCEnable)));
+    add("n", "setDBCEnable", kRequired, mPQCtrl,
+        printResultForAtoi("setDBCEnable = ", &PQ::setDBCEnable));
+    add("q", "getDCREnable", kRequired, mPQCtrl, needsArgument(printResult("getDCREnable = ",
+                                                                           &PQ::getDCREnable)));
+    add("r", "setDCREnable", kRequired, mPQCtrl,
+        printResultForAtoi("setDCREnable = ", &PQ::setDCREnable));
     add("f", "setPresetColorTempMode", kRequired, mPQCtrl, [](PQ& pq, const Input& in) {
         if (in.missing()) return USAGE;
         std::vector<std::string> f = in.fields(5);

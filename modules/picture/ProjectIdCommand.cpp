@@ -7,6 +7,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IProjectId.h"
 
 namespace android {
@@ -16,7 +17,7 @@ class ProjectIdCommand : public ListCommand {
 public:
     explicit ProjectIdCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "ProjectId Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -37,10 +38,6 @@ ProjectIdCommand::ProjectIdCommand(DumpBrel& parent)
       mName("ProjectId"),
       mProjectId(connect(&IBrelManager::getProjectId, "getProjectId() fail\n")) {}
 
-std::string ProjectIdCommand::getSimpleDescription() const {
-    return "ProjectId Module";
-}
-
 Status ProjectIdCommand::registerAllOptions() {
     addHelp();
     add("s:", "setProjectIdByIndex", kRequired, mProjectId,
@@ -56,20 +53,13 @@ Status ProjectIdCommand::registerAllOptions() {
         },
         "0-4:\n0-PANNAL_SIZE_NONE\n1-PANNAL_SIZE_55\n2-PANNAL_SIZE_65\n3-PANNAL_SIZE_75\n"
         "4-PANNAL_SIZE_86");
-    add("g", "getProjectIdIndex", kNone, mProjectId, [](IProjectId& project, const Input&) {
-        std::cout << "mEnumProjectId = " << project.getProjectIdIndex() << '\n';
-        return OK;
-    });
-    add("e", "getEyePqFixedEnable", kNone, mProjectId, [](IProjectId& project, const Input&) {
-        std::cout << "getEyePqFixedEnable = " << project.getEyePqFixedEnable() << '\n';
-        return OK;
-    });
+    add("g", "getProjectIdIndex", kNone, mProjectId,
+        printResult("mEnumProjectId = ", &IProjectId::getProjectIdIndex));
+    add("e", "getEyePqFixedEnable", kNone, mProjectId,
+        printResult("getEyePqFixedEnable = ", &IProjectId::getEyePqFixedEnable));
     // -v takes an argument that is never read; the long form takes none.
-    add("v:", "getEyePqFixedValue", kNone, mProjectId, [](IProjectId& project, const Input&) {
-        std::cout << "getEyePqFixedValue = " << String8(project.getEyePqFixedValue()).c_str()
-                  << '\n';
-        return OK;
-    });
+    add("v:", "getEyePqFixedValue", kNone, mProjectId,
+        printResult("getEyePqFixedValue = ", &IProjectId::getEyePqFixedValue));
     return OK;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/ISourceCtrl.h"
 
 namespace android {
@@ -13,7 +14,7 @@ class SourceCtrlCommand : public ListCommand {
 public:
     explicit SourceCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SourceCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,23 +27,15 @@ SourceCtrlCommand::SourceCtrlCommand(DumpBrel& parent)
       mName("SourceCtrl"),
       mSourceCtrl(connect(&IBrelManager::getSourceCtrl, "getSourceCtrl() fail\n")) {}
 
-std::string SourceCtrlCommand::getSimpleDescription() const {
-    return "SourceCtrl Module";
-}
-
 // The letters: -g is getCurInputSource (the last row starting with g), -s is getHdmiStandbyEn
 // and takes no argument (its first place in the joined string is the second s of "gs");
 // getChannelList and setCurInputSource are reached by their long names only.
 Status SourceCtrlCommand::registerAllOptions() {
     addHelp();
-    add("g", "getChannelList", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
-        std::cout << "u4ChannelList = " << source.getChannelList() << '\n';
-        return OK;
-    });
-    add("gs", "getCurInputSource", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
-        std::cout << "getCurSocSource ID = " << source.getCurInputSource() << '\n';
-        return OK;
-    });
+    add("g", "getChannelList", kNone, mSourceCtrl,
+        printResult("u4ChannelList = ", &ISourceCtrl::getChannelList));
+    add("gs", "getCurInputSource", kNone, mSourceCtrl,
+        printResult("getCurSocSource ID = ", &ISourceCtrl::getCurInputSource));
     add("ss", "setCurInputSource", kRequired, mSourceCtrl,
         [](ISourceCtrl& source, const Input& in) {
             if (in.missing()) return USAGE;
@@ -70,10 +63,8 @@ Status SourceCtrlCommand::registerAllOptions() {
                       << "verison :" << source.getHdmiRxEdidVersion(sourceId) << '\n';
             return OK;
         });
-    add("s:", "getHdmiStandbyEn", kNone, mSourceCtrl, [](ISourceCtrl& source, const Input&) {
-        std::cout << "getHdmiStandbyEn :" << source.getHdmiStandbyEn() << '\n';
-        return OK;
-    });
+    add("s:", "getHdmiStandbyEn", kNone, mSourceCtrl,
+        printResult("getHdmiStandbyEn :", &ISourceCtrl::getHdmiStandbyEn));
     add("e:", "setHdmiStandbyEn", kRequired, mSourceCtrl,
         [](ISourceCtrl& source, const Input& in) {
             bool enable = atoi(in.text) != 0;

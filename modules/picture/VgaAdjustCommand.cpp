@@ -12,7 +12,7 @@ class VgaAdjustCommand : public ListCommand {
 public:
     explicit VgaAdjustCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "VgaAdjust Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -24,10 +24,6 @@ VgaAdjustCommand::VgaAdjustCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("VgaAdjust"),
       mVgaAdjust(connect(&IBrelManager::getVgaAdjust, "getVgaAdjust() fail\n")) {}
-
-std::string VgaAdjustCommand::getSimpleDescription() const {
-    return "VgaAdjust Module";
-}
 
 Status VgaAdjustCommand::registerAllOptions() {
     addHelp();

@@ -5,6 +5,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IAtCfgControl.h"
 
 namespace android {
@@ -14,7 +15,7 @@ class AtCfgControlCommand : public ListCommand {
 public:
     explicit AtCfgControlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "AtCfgControl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -26,10 +27,6 @@ AtCfgControlCommand::AtCfgControlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("AtCfgControl"),
       mAtCfgControl(connect(&IBrelManager::getAtCfgControl, "getAtCfgControl() fail\n")) {}
-
-std::string AtCfgControlCommand::getSimpleDescription() const {
-    return "AtCfgControl Module";
-}
 
 // Key texts go through as typed, with no test of their form.
 Status AtCfgControlCommand::registerAllOptions() {
@@ -52,16 +49,10 @@ Status AtCfgControlCommand::registerAllOptions() {
             std::cout << "installWidevineKey ret = " << ret << '\n';
             return OK;
         });
-    add("d", "deleteWidevineKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
-        bool ret = cfg.deleteWidevineKey();
-        std::cout << "deleteWidevineKey ret = " << ret << '\n';
-        return OK;
-    });
-    add("r", "readAttestationKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
-        String16 key = cfg.readAttestationKey();
-        std::cout << "readAttestationKey: " << String8(key).c_str() << '\n';
-        return OK;
-    });
+    add("d", "deleteWidevineKey", kNone, mAtCfgControl,
+        printResult("deleteWidevineKey ret = ", &IAtCfgControl::deleteWidevineKey));
+    add("r", "readAttestationKey", kNone, mAtCfgControl,
+        printResult("readAttestationKey: ", &IAtCfgControl::readAttestationKey));
     add("k:", "installAttestationKey", kRequired, mAtCfgControl,
         [](IAtCfgControl& cfg, const Input& in) {
             if (in.missing()) return USAGE;
@@ -69,11 +60,8 @@ Status AtCfgControlCommand::registerAllOptions() {
             std::cout << "installAttestationKey ret = " << ret << '\n';
             return OK;
         });
-    add("a", "deleteAttestationKey", kNone, mAtCfgControl, [](IAtCfgControl& cfg, const Input&) {
-        bool ret = cfg.deleteAttestationKey();
-        std::cout << "deleteAttestationKey ret = " << ret << '\n';
-        return OK;
-    });
+    add("a", "deleteAttestationKey", kNone, mAtCfgControl,
+        printResult("deleteAttestationKey ret = ", &IAtCfgControl::deleteAttestationKey));
     return OK;
 }
 

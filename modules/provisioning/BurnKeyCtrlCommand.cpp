@@ -7,6 +7,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IBurnKeyCtrl.h"
 
 namespace android {
@@ -16,7 +17,7 @@ class BurnKeyCtrlCommand : public ListCommand {
 public:
     explicit BurnKeyCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "BurnKeyCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -28,10 +29,6 @@ BurnKeyCtrlCommand::BurnKeyCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("BurnKeyCtrl"),
       mBurnKeyCtrl(connect(&IBrelManager::getBurnKeyCtrl, "getBurnKeyCtrl() fail\n")) {}
-
-std::string BurnKeyCtrlCommand::getSimpleDescription() const {
-    return "BurnKeyCtrl Module";
-}
 
 // Every row below with an argument has a colon behind its letter and no shared letter, so getopt
 // always hands it a text.
@@ -59,12 +56,8 @@ Status BurnKeyCtrlCommand::registerAllOptions() {
                   << ", ret = " << ret << '\n';
         return OK;
     });
-    add("c:", "setCleanBurnKey", kRequired, mBurnKeyCtrl, [](IBurnKeyCtrl& burn, const Input& in) {
-        int mode = atoi(in.text);
-        bool ret = burn.setCleanBurnKey(mode);
-        std::cout << "setCleanBurnKey mode = " << mode << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("c:", "setCleanBurnKey", kRequired, mBurnKeyCtrl,
+        printAtoiAndResult("setCleanBurnKey mode = ", &IBurnKeyCtrl::setCleanBurnKey, ", ret = "));
     add("g:", "getBurnKey", kRequired, mBurnKeyCtrl, [](IBurnKeyCtrl& burn, const Input& in) {
         int mode = atoi(in.text);
         String16 key = burn.getBurnKey(mode);

@@ -16,7 +16,7 @@ class BurnMacCtrlCommand : public ListCommand {
 public:
     explicit BurnMacCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "BurnMacCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -28,10 +28,6 @@ BurnMacCtrlCommand::BurnMacCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("BurnMacCtrl"),
       mBurnMacCtrl(connect(&IBrelManager::getBurnMacCtrl, "getBurnMacCtrl() fail\n")) {}
-
-std::string BurnMacCtrlCommand::getSimpleDescription() const {
-    return "BurnMacCtrl Module";
-}
 
 // The address goes through as typed: its form is the service's business.
 Status BurnMacCtrlCommand::registerAllOptions() {

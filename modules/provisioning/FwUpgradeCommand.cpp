@@ -18,7 +18,7 @@ class FwUpgradeCommand : public ListCommand {
 public:
     explicit FwUpgradeCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "FwUpgrade Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -54,10 +54,6 @@ FwUpgradeCommand::FwUpgradeCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("FwUpgrade"),
       mFwUpgrade(connect(&IBrelManager::getFwUpgrade, "getFwUpgrade() fail\n")) {}
-
-std::string FwUpgradeCommand::getSimpleDescription() const {
-    return "FwUpgrade Module";
-}
 
 Status FwUpgradeCommand::registerAllOptions() {
     addHelp();

@@ -13,7 +13,7 @@ class AnionCtrlCommand : public ListCommand {
 public:
     explicit AnionCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "AnionCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -25,10 +25,6 @@ AnionCtrlCommand::AnionCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("AnionCtrl"),
       mAnionCtrl(connect(&IBrelManager::getAnionCtrl, "getAnionCtrl() fail\n")) {}
-
-std::string AnionCtrlCommand::getSimpleDescription() const {
-    return "AnionCtrl Module";
-}
 
 Status AnionCtrlCommand::registerAllOptions() {
     addHelp();

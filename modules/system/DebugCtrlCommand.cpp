@@ -12,7 +12,7 @@ class DebugCtrlCommand : public ListCommand {
 public:
     explicit DebugCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "DebugCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -24,10 +24,6 @@ DebugCtrlCommand::DebugCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("DebugCtrl"),
       mDebugCtrl(connect(&IBrelManager::getDebugCtrl, "getDebugCtrl() fail\n")) {}
-
-std::string DebugCtrlCommand::getSimpleDescription() const {
-    return "DebugCtrl Module";
-}
 
 Status DebugCtrlCommand::registerAllOptions() {
     addHelp();

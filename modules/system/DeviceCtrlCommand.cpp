@@ -8,6 +8,7 @@
 #include <utils/String8.h>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IDeviceCtrl.h"
 
 namespace android {
@@ -17,7 +18,7 @@ class DeviceCtrlCommand : public ListCommand {
 public:
     explicit DeviceCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "DeviceCtrl Module"; }
     Status registerAllOptions() override;
 
     // The usbsw row: action, target and value as typed.
@@ -49,10 +50,6 @@ DeviceCtrlCommand::DeviceCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("DeviceCtrl"),
       mDeviceCtrl(connect(&IBrelManager::getDeviceCtrl, "getDeviceCtrl() fail\n")) {}
-
-std::string DeviceCtrlCommand::getSimpleDescription() const {
-    return "DeviceCtrl Module";
-}
 
 int DeviceCtrlCommand::getUsbswChannelByName(const std::string& name) {
     for (const UsbswChannel& row : usbswChannelTable) {
@@ -99,23 +96,14 @@ void DeviceCtrlCommand::doUsbSwDebug(const std::string& action, const std::strin
 
 Status DeviceCtrlCommand::registerAllOptions() {
     addHelp();
-    add("d", "getDeviceList", kNone, mDeviceCtrl, [](IDeviceCtrl& device, const Input&) {
-        std::cout << "DeviceList: " << device.getDeviceList() << "\n";
-        return OK;
-    });
-    add("s", "getSecondDeviceList", kNone, mDeviceCtrl, [](IDeviceCtrl& device, const Input&) {
-        std::cout << "u4SecondDeviceList: " << device.getSecondDeviceList() << "\n";
-        return OK;
-    });
-    add("t", "getThirdDeviceList", kNone, mDeviceCtrl, [](IDeviceCtrl& device, const Input&) {
-        std::cout << "u4ThirdDeviceList: " << device.getThirdDeviceList() << "\n";
-        return OK;
-    });
-    add("b", "getBoardName", kNone, mDeviceCtrl, [](IDeviceCtrl& device, const Input&) {
-        String16 name = device.getBoardName();
-        std::cout << "s16_boardname: " << String8(name).c_str() << "\n";
-        return OK;
-    });
+    add("d", "getDeviceList", kNone, mDeviceCtrl,
+        printResult("DeviceList: ", &IDeviceCtrl::getDeviceList));
+    add("s", "getSecondDeviceList", kNone, mDeviceCtrl,
+        printResult("u4SecondDeviceList: ", &IDeviceCtrl::getSecondDeviceList));
+    add("t", "getThirdDeviceList", kNone, mDeviceCtrl,
+        printResult("u4ThirdDeviceList: ", &IDeviceCtrl::getThirdDeviceList));
+    add("b", "getBoardName", kNone, mDeviceCtrl,
+        printResult("s16_boardname: ", &IDeviceCtrl::getBoardName));
     // action,target,value: set or get a USB switch (side, all, touchin, pip).
     add("u:", "usbsw", kRequired, mDeviceCtrl, [this](IDeviceCtrl&, const Input& in) {
         if (in.missing()) return USAGE;
@@ -130,11 +118,8 @@ Status DeviceCtrlCommand::registerAllOptions() {
         device.setDevicePower(atoi(fields[0].c_str()), fields[1] == "on");
         return OK;
     });
-    add("G", "getNfcTagMsg", kNone, mDeviceCtrl, [](IDeviceCtrl& device, const Input&) {
-        String16 message = device.getNfcTagMsg();
-        std::cout << "result: " << String8(message).c_str() << "\n";
-        return OK;
-    });
+    add("G", "getNfcTagMsg", kNone, mDeviceCtrl,
+        printResult("result: ", &IDeviceCtrl::getNfcTagMsg));
     add("S:", "setNfcTagMsg", kRequired, mDeviceCtrl, [](IDeviceCtrl& device, const Input& in) {
         if (in.missing()) return USAGE;
         String16 message(in.text);

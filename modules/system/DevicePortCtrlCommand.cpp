@@ -15,7 +15,7 @@ class DevicePortCtrlCommand : public ListCommand {
 public:
     explicit DevicePortCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "DevicePortCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -43,10 +43,6 @@ DevicePortCtrlCommand::DevicePortCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("DevicePortCtrl"),
       mDevicePortCtrl(connect(&IBrelManager::getDevicePortCtrl, "getDevicePortCtrl() fail\n")) {}
-
-std::string DevicePortCtrlCommand::getSimpleDescription() const {
-    return "DevicePortCtrl Module";
-}
 
 Status DevicePortCtrlCommand::registerAllOptions() {
     addHelp();

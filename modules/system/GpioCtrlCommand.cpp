@@ -13,7 +13,7 @@ class GpioCtrlCommand : public ListCommand {
 public:
     explicit GpioCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "GpioCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -52,10 +52,6 @@ GpioCtrlCommand::GpioCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("GpioCtrl"),
       mGpioCtrl(connect(&IBrelManager::getGpioCtrl, "getGpioCtrl() fail\n")) {}
-
-std::string GpioCtrlCommand::getSimpleDescription() const {
-    return "GpioCtrl Module";
-}
 
 Status GpioCtrlCommand::registerAllOptions() {
     addHelp();

@@ -16,7 +16,7 @@ class PmsCtrlCommand : public ListCommand {
 public:
     explicit PmsCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "PmsCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -29,21 +29,13 @@ PmsCtrlCommand::PmsCtrlCommand(DumpBrel& parent)
       mName("PmsCtrl"),
       mPmsCtrl(connect(&IBrelManager::getPmsCtrl, "getPmsCtrl() fail\n")) {}
 
-std::string PmsCtrlCommand::getSimpleDescription() const {
-    return "PmsCtrl Module";
-}
-
 Status PmsCtrlCommand::registerAllOptions() {
     addHelp();
     // Both wake-up sources print the same label.
-    add("g", "getWakeupSrc", kNone, mPmsCtrl, [](IPmsCtrl& pms, const Input&) {
-        std::cout << "wakeup src: " << pms.getWakeupSrc() << "\n";
-        return OK;
-    });
-    add("u", "getWakeupSrcFromUboot", kNone, mPmsCtrl, [](IPmsCtrl& pms, const Input&) {
-        std::cout << "wakeup src: " << pms.getWakeupSrcFromUboot() << "\n";
-        return OK;
-    });
+    add("g", "getWakeupSrc", kNone, mPmsCtrl,
+        printResult("wakeup src: ", &IPmsCtrl::getWakeupSrc));
+    add("u", "getWakeupSrcFromUboot", kNone, mPmsCtrl,
+        printResult("wakeup src: ", &IPmsCtrl::getWakeupSrcFromUboot));
     // first,second
     add("r:", "readAssetData", kRequired, mPmsCtrl, [](IPmsCtrl& pms, const Input& in) {
         std::vector<std::string> fields = in.fields(2);

@@ -13,7 +13,7 @@ class SuspendCtrlCommand : public ListCommand {
 public:
     explicit SuspendCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SuspendCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -25,10 +25,6 @@ SuspendCtrlCommand::SuspendCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SuspendCtrl"),
       mSuspendCtrl(connect(&IBrelManager::getSuspendCtrl, "SuspendCtrl() fail\n")) {}
-
-std::string SuspendCtrlCommand::getSimpleDescription() const {
-    return "SuspendCtrl Module";
-}
 
 Status SuspendCtrlCommand::registerAllOptions() {
     addHelp();

@@ -15,7 +15,7 @@ class SystemCtrlCommand : public ListCommand {
 public:
     explicit SystemCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "SystemCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -52,10 +52,6 @@ SystemCtrlCommand::SystemCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("SystemCtrl"),
       mSystemCtrl(connect(&IBrelManager::getSystemCtrl, "getSystemCtrl() fail\n")) {}
-
-std::string SystemCtrlCommand::getSimpleDescription() const {
-    return "SystemCtrl Module";
-}
 
 Status SystemCtrlCommand::registerAllOptions() {
     using Sys = ISystemCtrl;

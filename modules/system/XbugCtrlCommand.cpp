@@ -4,6 +4,7 @@
 #include <string>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IXbugCtrl.h"
 
 namespace android {
@@ -13,7 +14,7 @@ class XbugCtrlCommand : public ListCommand {
 public:
     explicit XbugCtrlCommand(DumpBrel& parent);
     std::string getName() const override { return mName; }
-    std::string getSimpleDescription() const override;
+    std::string getSimpleDescription() const override { return "XbugCtrl Module"; }
     Status registerAllOptions() override;
 
 private:
@@ -25,10 +26,6 @@ XbugCtrlCommand::XbugCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("XbugCtrl"),
       mXbugCtrl(connect(&IBrelManager::getXbugCtrl, "getXbugCtrl() fail\n")) {}
-
-std::string XbugCtrlCommand::getSimpleDescription() const {
-    return "XbugCtrl Module";
-}
 
 Status XbugCtrlCommand::registerAllOptions() {
     addHelp();
@@ -73,10 +70,8 @@ Status XbugCtrlCommand::registerAllOptions() {
             return OK;
         },
         "unsigned int");
-    add("t", "getBrelFuntionChkBaseTime", kNone, mXbugCtrl, [](IXbugCtrl& xbug, const Input&) {
-        std::cout << "getBrelFuntionChkBaseTime is " << xbug.getBrelFuntionChkBaseTime() << "\n";
-        return OK;
-    });
+    add("t", "getBrelFuntionChkBaseTime", kNone, mXbugCtrl,
+        printResult("getBrelFuntionChkBaseTime is ", &IXbugCtrl::getBrelFuntionChkBaseTime));
     add("u", "getBrelFuntionTimeOutList", kNone, mXbugCtrl,
         [](IXbugCtrl& xbug, const Input&) {
             int result = xbug.getBrelFuntionTimeOutList();
