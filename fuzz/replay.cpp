@@ -16,12 +16,13 @@
 #include <vector>
 
 #include "Harness.h"
+#include "tests/RunAs.h"
 
 namespace fs = std::filesystem;
 
 int main(int argc, char** argv) {
-    if (getuid() != 0 && getuid() != 2000) {
-        fprintf(stderr, "replay: skipped, the tool runs only as root or the shell user\n");
+    if (!dumpbrel_test::runAsToolUser()) {
+        fprintf(stderr, "replay: skipped: not root, and no user namespaces\n");
         return 77;
     }
     std::vector<fs::path> inputs;

@@ -37,6 +37,7 @@
 #include "Registry.h"
 #include "framework/DumpBrel.h"
 #include "sim/Panel.h"
+#include "tests/RunAs.h"
 
 // Present in sanitizer runtimes only: a leak check that a forked child can run before _exit.
 extern "C" int __lsan_do_recoverable_leak_check() __attribute__((weak));
@@ -466,8 +467,8 @@ int main(int argc, char** argv) {
                 return 2;
         }
     }
-    if (getuid() != 0 && getuid() != 2000) {
-        printf("sweep: skipped, the tool runs only as root or the shell user\n");
+    if (!dumpbrel_test::runAsToolUser()) {
+        printf("sweep: skipped: not root, and no user namespaces\n");
         return 77;
     }
     for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);

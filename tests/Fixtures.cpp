@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include "RunAs.h"
 #include "framework/DumpBrel.h"
 #include "sim/Panel.h"
 
@@ -82,7 +83,10 @@ Result runChild(const Start& start, Run body) {
         redirect(0, input, O_RDONLY);
         redirect(1, out, O_WRONLY | O_CREAT | O_TRUNC);
         redirect(2, err, O_WRONLY | O_CREAT | O_TRUNC);
-        if (start.uid >= 0 && (setgid(start.uid) != 0 || setuid(start.uid) != 0)) _exit(126);
+        if (!(start.uid >= 0 ? runAs(start.uid) : runAsToolUser())) {
+            fprintf(stderr, "cannot run as uid %d: not root, and no user namespaces\n", start.uid);
+            _exit(126);
+        }
         alarm(30);  // survives exec: a run that hangs is killed
         body();
     }
@@ -114,8 +118,18 @@ Result runEntry(const Start& start) {
 }
 
 void execBinary(const std::vector<std::string>& args) {
+    if (!runAsToolUser()) _exit(126);
     for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);
     execWords(commandLine(args));
+}
+
+bool canRunAs(int uid) {
+    if (getuid() == 0) return true;
+    pid_t pid = fork();
+    if (pid == 0) _exit(runAs(uid) ? 0 : 1);
+    int wstatus = 0;
+    waitpid(pid, &wstatus, 0);
+    return WIFEXITED(wstatus) && WEXITSTATUS(wstatus) == 0;
 }
 
 Outcome dispatch(android::dumpbrel::DumpBrel& dumpBrel, std::vector<std::string> words) {

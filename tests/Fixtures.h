@@ -18,7 +18,7 @@ struct Start {
     std::optional<std::string> panel;         // profile text (BREL_SIM_PANEL); none: built-in
     std::map<std::string, std::string> env;   // more environment, e.g. BREL_SIM_ABSENT
     std::optional<std::string> input;         // standard input; none: /dev/null
-    int uid = -1;                             // run as this user (needs root)
+    int uid = -1;  // run as this user; -1: as root, through a user namespace when not root
 };
 
 // What one run left: its output, the panel's trace and its exit status (128 + the signal when
@@ -44,8 +44,11 @@ inline Result runEntry(std::vector<std::string> args) {
     return runEntry(start);
 }
 
+// Whether a child of this process can run as `uid` (root, or a user namespace).
+bool canRunAs(int uid);
+
 // Replaces the process with the binary (through the build's emulator, if any), word 0
-// "dumpbrel", on the built-in panel with no trace.
+// "dumpbrel", on the built-in panel with no trace; as root, through a user namespace when not.
 [[noreturn]] void execBinary(const std::vector<std::string>& args);
 
 // One dispatch of `dumpBrel` in-process: "dumpbrel" and `words`, output captured.

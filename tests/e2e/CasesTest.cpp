@@ -4,7 +4,7 @@
 //   "name"   what it shows               "args"   the words after "dumpbrel", sub-service first
 //   "panel"  the profile (object or raw text; absent: the built-in profile)
 //   "env"    more environment            "stdin"  standard input (absent: /dev/null)
-//   "uid"    run as this user (needs root; skipped otherwise)
+//   "uid"    run as this user (root, or a user namespace; skipped where neither works)
 //   "out", "err", "calls"  standard output, standard error, the panel's trace: lines (each gets
 //            its newline) or one string of exact bytes; absent: nothing at all, null: not checked.
 //            The line "@options" stands for the option list of the sub-service args[0], "@usage"
@@ -70,7 +70,8 @@ TEST_P(E2E, Case) {
     const Json& row = GetParam().row;
     Start start;
     start.uid = row.value("uid", -1);
-    if (start.uid >= 0 && geteuid() != 0) GTEST_SKIP() << "needs root to change the user id";
+    if (start.uid >= 0 && !canRunAs(start.uid))
+        GTEST_SKIP() << "cannot run as uid " << start.uid << ": not root, and no user namespaces";
     start.args = row.value("args", std::vector<std::string>());
     if (row.contains("panel"))
         start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()
