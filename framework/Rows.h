@@ -73,6 +73,16 @@ auto printResult(const char* label, R (I::*op)(), const char* (*words)(R) = null
     };
 }
 
+// Calls `op` and prints `line` and a newline, whatever it answered.
+template <typename I, typename R>
+auto printWhenDone(const char* line, R (I::*op)()) {
+    return [line, op](I& iface, const Input&) -> Status {
+        (iface.*op)();
+        std::cout << line << '\n';
+        return OK;
+    };
+}
+
 // A row that insists on an argument it then does not read: USAGE without one, else `body`.
 template <typename Body>
 auto needsArgument(Body body) {

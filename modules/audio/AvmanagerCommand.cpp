@@ -49,16 +49,8 @@ Status AvmanagerCommand::registerAllOptions() {
         printAtoi("setDspUsbEnable: ", &Av::setDspUsbEnable, trueFalse));
     add("u", "getDspUsbEnable", kNone, mAvManagerCtrl,
         printResult("getDspUsbEnable: ", &Av::getDspUsbEnable, trueFalse));
-    add("r", "release", kNone, mAvManagerCtrl, [](Av& av, const Input&) {
-        av.release();
-        std::cout << "release ok" << '\n';
-        return OK;
-    });
-    add("i", "init", kNone, mAvManagerCtrl, [](Av& av, const Input&) {
-        av.init();
-        std::cout << "init ok" << '\n';
-        return OK;
-    });
+    add("r", "release", kNone, mAvManagerCtrl, printWhenDone("release ok", &Av::release));
+    add("i", "init", kNone, mAvManagerCtrl, printWhenDone("init ok", &Av::init));
     add("o:", "setSpkOutPutMode", kRequired, mAvManagerCtrl,
         printAtoi("setSpkOutPutMode ok, mode = ", &Av::setSpkOutPutMode));
     add("g", "getSpkOutPutMode", kNone, mAvManagerCtrl,

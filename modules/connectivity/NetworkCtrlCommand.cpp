@@ -25,6 +25,22 @@ private:
     sp<INetworkCtrl> mNetworkCtrl;
 };
 
+namespace {
+
+// A switch set by a std::stoi number (not 0: on): `label`, the argument as typed, ", ret = " and
+// the result.
+auto printTextAndFlagResult(const char* label, bool (INetworkCtrl::*op)(bool)) {
+    return [label, op](INetworkCtrl& net, const Input& in) -> Status {
+        bool on = false;
+        if (!in.toFlag(on)) return USAGE;
+        bool ret = (net.*op)(on);
+        std::cout << label << in.text << ", ret = " << ret << '\n';
+        return OK;
+    };
+}
+
+}  // namespace
+
 NetworkCtrlCommand::NetworkCtrlCommand(DumpBrel& parent)
     : ListCommand(parent),
       mName("NetworkCtrl"),
@@ -59,70 +75,31 @@ Status NetworkCtrlCommand::registerAllOptions() {
             std::cout << "setMcuDhcpEnable ret = " << net.setMcuDhcpEnable(enable) << '\n';
             return OK;
         });
-    add("l:", "SetWOLEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
-        bool enable = false;
-        if (!in.toFlag(enable)) return USAGE;
-        bool ret = net.SetWOLEnable(enable);
-        std::cout << "SetWOLEnable " << in.text << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("l:", "SetWOLEnable", kRequired, mNetworkCtrl,
+        printTextAndFlagResult("SetWOLEnable ", &INetworkCtrl::SetWOLEnable));
     add("s:", "GetWOLEnable", kNone, mNetworkCtrl,
         printResult("GetWOLEnable ret = ", &INetworkCtrl::GetWOLEnable));
-    add("w:", "SetWOWEnable", kRequired, mNetworkCtrl, [](INetworkCtrl& net, const Input& in) {
-        bool enable = false;
-        if (!in.toFlag(enable)) return USAGE;
-        bool ret = net.SetWOWEnable(enable);
-        std::cout << "SetWOWEnable " << in.text << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("w:", "SetWOWEnable", kRequired, mNetworkCtrl,
+        printTextAndFlagResult("SetWOWEnable ", &INetworkCtrl::SetWOWEnable));
     add("n:", "GetWOWEnable", kNone, mNetworkCtrl,
         printResult("GetWOWEnable ret = ", &INetworkCtrl::GetWOWEnable));
     add("d:", "getWifiDongleStatus", kNone, mNetworkCtrl,
         printResult("getWifiDongleStatus: ", &INetworkCtrl::getWifiDongleStatus, trueFalse));
     add("x:", "setMcuToControlMonitorNetwork", kRequired, mNetworkCtrl,
-        [](INetworkCtrl& net, const Input& in) {
-            bool enable = false;
-            if (!in.toFlag(enable)) return USAGE;
-            bool ret = net.setMcuToControlMonitorNetwork(enable);
-            std::cout << "setMcuToControlMonitorNetwork " << in.text << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printTextAndFlagResult("setMcuToControlMonitorNetwork ",
+                               &INetworkCtrl::setMcuToControlMonitorNetwork));
     add("D:", "disableApUsbDevice", kRequired, mNetworkCtrl,
-        [](INetworkCtrl& net, const Input& in) {
-            bool disable = false;
-            if (!in.toFlag(disable)) return USAGE;
-            bool ret = net.disableApUsbDevice(disable);
-            std::cout << "disableApUsbDevice " << in.text << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printTextAndFlagResult("disableApUsbDevice ", &INetworkCtrl::disableApUsbDevice));
     add("d:", "setSharingDirection", kRequired, mNetworkCtrl,
-        [](INetworkCtrl& net, const Input& in) {
-            bool direction = false;
-            if (!in.toFlag(direction)) return USAGE;
-            bool ret = net.setSharingDirection(direction);
-            std::cout << "setSharingDirection " << in.text << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printTextAndFlagResult("setSharingDirection ", &INetworkCtrl::setSharingDirection));
     add("e", "getSharingDirection", kNone, mNetworkCtrl,
         printResult("getSharingDirection ret = ", &INetworkCtrl::getSharingDirection));
     add("a:", "setAndroidToPcSharing", kRequired, mNetworkCtrl,
-        [](INetworkCtrl& net, const Input& in) {
-            bool enable = false;
-            if (!in.toFlag(enable)) return USAGE;
-            bool ret = net.setAndroidToPcSharing(enable);
-            std::cout << "setAndroidToPcSharing " << in.text << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printTextAndFlagResult("setAndroidToPcSharing ", &INetworkCtrl::setAndroidToPcSharing));
     add("b", "getAndroidToPcSharing", kNone, mNetworkCtrl,
         printResult("getAndroidToPcSharing ret = ", &INetworkCtrl::getAndroidToPcSharing));
     add("J:", "setHotspotSharing", kRequired, mNetworkCtrl,
-        [](INetworkCtrl& net, const Input& in) {
-            bool enable = false;
-            if (!in.toFlag(enable)) return USAGE;
-            bool ret = net.setHotspotSharing(enable);
-            std::cout << "setHotspotSharing " << in.text << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printTextAndFlagResult("setHotspotSharing ", &INetworkCtrl::setHotspotSharing));
     // No blank before "ret" in this one line.
     add("j", "getHotspotSharing", kNone, mNetworkCtrl,
         printResult("getHotspotSharingret = ", &INetworkCtrl::getHotspotSharing));

@@ -37,13 +37,7 @@ Status SmartPenModeCtrlCommand::registerAllOptions() {
             return OK;
         });
     add("m:", "setSmartPenMode", kRequired, mSmartPenModeCtrl,
-        [](ISmartPenModeCtrl& pen, const Input& in) {
-            if (in.missing()) return USAGE;
-            int mode = atoi(in.text);
-            int ret = pen.setSmartPenMode(mode);
-            std::cout << "setSmartPenMode: " << mode << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printAtoiAndResult("setSmartPenMode: ", &ISmartPenModeCtrl::setSmartPenMode, ", ret = "));
     add("g", "getSmartPenMode", kNone, mSmartPenModeCtrl,
         printResult("getSmartPenMode: ", &ISmartPenModeCtrl::getSmartPenMode));
     return OK;

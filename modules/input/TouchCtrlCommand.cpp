@@ -96,23 +96,13 @@ Status TouchCtrlCommand::registerAllOptions() {
         touch.addNoTouchArea(*rect);
         return OK;
     });
-    add("smo:", "setPressureMode", kRequired, mTouchCtrl, [](ITouchCtrl& touch, const Input& in) {
-        if (in.missing()) return USAGE;
-        int mode = atoi(in.text);
-        int ret = touch.setPressureMode(mode);
-        std::cout << "setPressureMode: " << mode << ", ret = " << ret << '\n';
-        return OK;
-    });
+    add("smo:", "setPressureMode", kRequired, mTouchCtrl,
+        printAtoiAndResult("setPressureMode: ", &ITouchCtrl::setPressureMode, ", ret = "));
     add("gmo", "getPressureMode", kNone, mTouchCtrl,
         printResult("getPressureMode: ", &ITouchCtrl::getPressureMode));
     add("saf:", "setAndroidForbiddenState", kRequired, mTouchCtrl,
-        [](ITouchCtrl& touch, const Input& in) {
-            if (in.missing()) return USAGE;
-            int state = atoi(in.text);
-            int ret = touch.setAndroidForbiddenState(state);
-            std::cout << "setAndroidForbiddenState: " << state << ", ret = " << ret << '\n';
-            return OK;
-        });
+        printAtoiAndResult("setAndroidForbiddenState: ",
+                           &ITouchCtrl::setAndroidForbiddenState, ", ret = "));
     add("gaf", "getAndroidForbiddenState", kNone, mTouchCtrl, [](ITouchCtrl& touch, const Input&) {
         bool enabled = touch.getAndroidForbiddenState();
         std::cout << "getAndroidForbiddenState: " << (enabled ? "1 (Enabled)" : "0 (Disabled)")

@@ -33,11 +33,8 @@ Status RGBLedCtrlCommand::registerAllOptions() {
     // argument has its colon, so the text is always there.
     add("s:", "setPowerStandbyState", kRequired, mRGBLedCtrl,
         printText("setPowerStandbyState : ", &IRGBLedCtrl::setPowerStandbyState));
-    add("i", "setIRInputState", kNone, mRGBLedCtrl, [](IRGBLedCtrl& led, const Input&) {
-        led.setIRInputState();
-        std::cout << "setIRInputState" << '\n';
-        return OK;
-    });
+    add("i", "setIRInputState", kNone, mRGBLedCtrl,
+        printWhenDone("setIRInputState", &IRGBLedCtrl::setIRInputState));
     add("l:", "setLedOtaState", kRequired, mRGBLedCtrl,
         printText("setLedOtaState : ", &IRGBLedCtrl::setLedOtaState));
     add("d:", "setDiagnosisState", kRequired, mRGBLedCtrl,
