@@ -70,6 +70,11 @@ struct __attribute__((visibility("default"))) Panel {
     static void reset();
 };
 
+// A new control of the interface I. Each is defined beside its operations (sim/<Name>.cpp) and
+// handed out by the accessor that sim/Manager.cpp lists for it.
+template <typename I>
+I* make();
+
 // JSON text of a string as the trace writes it: only '"', '\\' and control bytes escaped,
 // UTF-8 kept, a byte that is not valid UTF-8 written as U+FFFD.
 std::string jsonString(std::string_view text);
