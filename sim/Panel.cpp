@@ -13,6 +13,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <set>
 
 // The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h). The C
 // library's headers it uses come first, above: a C function first declared inside the hidden
@@ -48,20 +49,26 @@ std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by inte
 std::string gProblemSource = "built-in profile";
 const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
+std::set<std::string> gSaid;    // the problem lines written so far
+
+// One problem line on standard error, "dumpbrel: simulated panel: <parts>", written once per run
+// however often the operation behind it is called.
+void say(std::string line) {
+    line = "dumpbrel: simulated panel: " + line + "\n";
+    if (gSaid.insert(line).second) fputs(line.c_str(), stderr);
+}
 
 Source parse(std::string name, const std::string& text) {
     Source source{std::move(name), nullptr};
     try {
         source.root = Json::parse(text);
     } catch (const Json::parse_error& e) {
-        fprintf(stderr, "dumpbrel: simulated panel: %s: not valid JSON: %s\n",
-                source.name.c_str(), e.what());
+        say(source.name + ": not valid JSON: " + e.what());
         source.root = nullptr;
         return source;
     }
     if (!source.root.is_object()) {
-        fprintf(stderr, "dumpbrel: simulated panel: %s: expected a JSON object, got %s\n",
-                source.name.c_str(), source.root.type_name());
+        say(source.name + ": expected a JSON object, got " + source.root.type_name());
         source.root = nullptr;
     }
     return source;
@@ -84,8 +91,7 @@ const Source& fileSource(const char* path) {
     if (!gFile || gFile->name != path) {
         std::string text;
         if (!readFile(path, text)) {
-            fprintf(stderr, "dumpbrel: simulated panel: %s: cannot read: %s\n", path,
-                    strerror(errno));
+            say(std::string(path) + ": cannot read: " + strerror(errno));
             gFile = std::make_unique<Source>(Source{path, nullptr});
         } else {
             gFile = std::make_unique<Source>(parse(path, text));
@@ -171,7 +177,7 @@ void Panel::trace(const std::string& line) {
     if (!path) return;
     int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
     if (fd < 0) {
-        fprintf(stderr, "dumpbrel: simulated panel: trace %s: %s\n", path, strerror(errno));
+        say(std::string("trace ") + path + ": " + strerror(errno));
         return;
     }
     std::string text = line + "\n";
@@ -198,14 +204,14 @@ bool Panel::absent(const char* word) {
 }
 
 void Panel::problem(const std::string& key, const std::string& what) {
-    fprintf(stderr, "dumpbrel: simulated panel: %s: %s: %s\n", gProblemSource.c_str(), key.c_str(),
-            what.c_str());
+    say(gProblemSource + ": " + key + ": " + what);
 }
 
 void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
     gAbsentRead = false;
+    gSaid.clear();
 }
 
 std::string jsonString(std::string_view text) {

@@ -64,9 +64,10 @@ struct __attribute__((visibility("default"))) Panel {
     static void trace(const std::string& line);
     // Whether BREL_SIM_ABSENT, as read at the first question, names `word`.
     static bool absent(const char* word);
-    // One line on standard error: the profile, the key and what is wrong with its value.
+    // One line on standard error, once per run: the profile, the key and what is wrong there.
     static void problem(const std::string& key, const std::string& what);
-    // Forgets the parsed profiles and the absence list, so that the environment is read again.
+    // Forgets the parsed profiles, the absence list and the lines written: a new run begins, which
+    // reads the environment again.
     static void reset();
 };
 
