@@ -16,6 +16,9 @@
 #define SIM_FACTORY(Name) template <> android::I##Name* sim::make<android::I##Name>();
 SIM_CONTROLS(SIM_FACTORY)
 
+#define SIM_ACCESSOR_NAME(Name) "get" #Name " "
+const char sim::kAccessors[] = " " SIM_CONTROLS(SIM_ACCESSOR_NAME);
+
 namespace android {
 
 namespace {

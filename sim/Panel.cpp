@@ -47,9 +47,9 @@ struct Source {
 std::unique_ptr<Source> gFile;                  // BREL_SIM_PANEL, once read
 std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
 std::string gProblemSource = "built-in profile";
-const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
+std::vector<std::string> gAbsent;  // the words of BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
-std::set<std::string> gSaid;    // the problem lines written so far
+std::set<std::string> gSaid;  // the problem lines written so far
 
 // One problem line on standard error, "dumpbrel: simulated panel: <parts>", written once per run
 // however often the operation behind it is called.
@@ -105,6 +105,27 @@ const Source& builtInSource(const char* iface, const char* defaults) {
     if (found == gBuiltIn.end())
         found = gBuiltIn.emplace(iface, parse("built-in profile", defaults)).first;
     return found->second;
+}
+
+// The words of BREL_SIM_ABSENT: split at commas, the blanks around each dropped. A word that
+// names nothing the panel can take away gets its line.
+std::vector<std::string> absentWords(const char* list) {
+    constexpr const char* kBlanks = " \t\n\v\f\r";
+    constexpr auto npos = std::string_view::npos;
+    std::vector<std::string> words;
+    for (std::string_view rest = list ? list : ""; !rest.empty();) {
+        size_t comma = rest.find(',');
+        std::string_view word = rest.substr(0, comma);
+        rest = comma == npos ? std::string_view() : rest.substr(comma + 1);
+        size_t first = word.find_first_not_of(kBlanks);
+        if (first == npos) continue;
+        std::string text(word.substr(first, word.find_last_not_of(kBlanks) + 1 - first));
+        if (text != "manager" && text != "all" &&
+            std::string_view(kAccessors).find(" " + text + " ") == npos)
+            say("BREL_SIM_ABSENT: " + text + ": neither manager, all nor an accessor of IBrelManager");
+        words.push_back(std::move(text));
+    }
+    return words;
 }
 
 }  // namespace
@@ -188,19 +209,10 @@ void Panel::trace(const std::string& line) {
 
 bool Panel::absent(const char* word) {
     if (!gAbsentRead) {
-        gAbsent = getenv("BREL_SIM_ABSENT");
+        gAbsent = absentWords(getenv("BREL_SIM_ABSENT"));
         gAbsentRead = true;
     }
-    const char* list = gAbsent;
-    if (!list) return false;
-    size_t length = strlen(word);
-    for (const char* p = list;;) {
-        const char* comma = strchr(p, ',');
-        size_t size = comma ? static_cast<size_t>(comma - p) : strlen(p);
-        if (size == length && strncmp(p, word, length) == 0) return true;
-        if (!comma) return false;
-        p = comma + 1;
-    }
+    return std::find(gAbsent.begin(), gAbsent.end(), word) != gAbsent.end();
 }
 
 void Panel::problem(const std::string& key, const std::string& what) {

@@ -62,7 +62,8 @@ struct __attribute__((visibility("default"))) Panel {
     static Node lookup(const char* iface, const char* op, const char* defaults);
     // Appends one line to the BREL_SIM_TRACE file, if any, at once.
     static void trace(const std::string& line);
-    // Whether BREL_SIM_ABSENT, as read at the first question, names `word`.
+    // Whether BREL_SIM_ABSENT, as read at the first question, names `word`. A word of the list
+    // that is neither "manager", "all" nor one of kAccessors gets its line then.
     static bool absent(const char* word);
     // One line on standard error, once per run: the profile, the key and what is wrong there.
     static void problem(const std::string& key, const std::string& what);
@@ -70,6 +71,10 @@ struct __attribute__((visibility("default"))) Panel {
     // reads the environment again.
     static void reset();
 };
+
+// The accessors of IBrelManager, each with a blank before and after: " getSystemCtrl ... ".
+// From the list of controls in sim/Manager.cpp.
+extern const char kAccessors[];
 
 // A new control of the interface I. Each is defined beside its operations (sim/<Name>.cpp) and
 // handed out by the accessor that sim/Manager.cpp lists for it.
