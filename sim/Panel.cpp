@@ -13,6 +13,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 
 // The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h). The C
@@ -74,6 +75,110 @@ Source parse(std::string name, const std::string& text) {
     return source;
 }
 
+// ---- the names a profile may use ------------------------------------------------------------
+
+constexpr auto npos = std::string_view::npos;
+
+// The words of a line of kNames.
+std::vector<std::string_view> words(std::string_view line) {
+    std::vector<std::string_view> found;
+    for (size_t at = 0; at < line.size();) {
+        size_t blank = std::min(line.find(' ', at), line.size());
+        if (blank > at) found.push_back(line.substr(at, blank - at));
+        at = blank + 1;
+    }
+    return found;
+}
+
+// Whether `name` can be found in kNames: one that holds its marks is none of them.
+bool plain(const std::string& name) {
+    return !name.empty() && name.find_first_of(" \n=:[") == std::string::npos;
+}
+
+// The rest of the line of `names` that begins with `head`, or nothing.
+std::optional<std::string_view> lineAfter(std::string_view names, const std::string& head) {
+    size_t at = names.find(head);
+    if (at == npos) return std::nullopt;
+    at += head.size();
+    return names.substr(at, names.find('\n', at) - at);
+}
+
+// Names each key of a profile that the service does not have, once, on its first reading; the
+// panel never asks for such a key, so it is otherwise ignored.
+class NameCheck {
+public:
+    explicit NameCheck(std::string file) : mFile(std::move(file)) {}
+
+    void profile(const Json& root) {
+        for (const auto& panel : root.items()) {
+            const std::string& iface = panel.key();
+            size_t at = plain(iface) ? mNames.find("\n" + iface + "\n") : npos;
+            if (at == npos) {
+                unknown(iface, "no such interface");
+                continue;
+            }
+            // Its operations: the lines after its own that begin with a blank.
+            size_t begin = at + iface.size() + 1, end = begin;
+            while (end + 1 < mNames.size() && mNames[end + 1] == ' ')
+                end = mNames.find('\n', end + 1);
+            std::string_view ops = mNames.substr(begin, end + 1 - begin);
+            if (!panel.value().is_object()) continue;  // said when the panel looks there
+            for (const auto& op : panel.value().items())
+                operation(ops, iface + "." + op.key(), op.key(), op.value());
+        }
+    }
+
+private:
+    std::string_view mNames = kNames;
+    std::string mFile;
+
+    void unknown(const std::string& key, const std::string& what) {
+        say(mFile + ": " + key + ": " + what);
+    }
+
+    void operation(std::string_view ops, const std::string& key, const std::string& op,
+                   const Json& value) {
+        std::optional<std::string_view> line;
+        if (plain(op)) line = lineAfter(ops, "\n " + op + " ");
+        if (!line) return unknown(key, "no such operation");
+        std::vector<std::string_view> shapes = words(*line);  // the result's, then "out:shape"
+        if (shapes.size() == 1) return holds(key, shapes[0], value);
+        if (!value.is_object()) return;  // said when the operation is called
+        for (const auto& member : value.items()) {
+            const std::string& name = member.key();
+            std::string_view shape;
+            if (name == "result" && shapes[0] != "-") shape = shapes[0];
+            for (size_t i = 1; i < shapes.size() && shape.empty(); ++i)
+                if (shapes[i].substr(0, shapes[i].find(':')) == name)
+                    shape = shapes[i].substr(shapes[i].find(':') + 1);
+            if (shape.empty())
+                unknown(key + "." + name, "no such out-parameter");
+            else
+                holds(key + "." + name, shape, member.value());
+        }
+    }
+
+    // The names inside a value of that shape ("." none, "Type" a record, "[Type" records).
+    void holds(const std::string& key, std::string_view shape, const Json& value) {
+        if (shape == "." || shape == "-") return;
+        bool many = shape[0] == '[';
+        std::string type(many ? shape.substr(1) : shape);
+        std::vector<std::string_view> fields =
+            words(lineAfter(mNames, "\n=" + type + " ").value_or(""));
+        auto record = [&](const std::string& at, const Json& object) {
+            if (!object.is_object()) return;  // said when the operation is called
+            for (const auto& field : object.items())
+                if (std::find(fields.begin(), fields.end(), field.key()) == fields.end())
+                    unknown(at + "." + field.key(), "no such field of " + type);
+        };
+        if (!many)
+            record(key, value);
+        else if (value.is_array())
+            for (size_t i = 0; i < value.size(); ++i)
+                record(key + "[" + std::to_string(i) + "]", value[i]);
+    }
+};
+
 // The whole file into `text`; false, with errno set, when it cannot be read to its end.
 bool readFile(const char* path, std::string& text) {
     int fd = open(path, O_RDONLY | O_CLOEXEC);
@@ -95,6 +200,7 @@ const Source& fileSource(const char* path) {
             gFile = std::make_unique<Source>(Source{path, nullptr});
         } else {
             gFile = std::make_unique<Source>(parse(path, text));
+            if (!gFile->root.is_null()) NameCheck(path).profile(gFile->root);
         }
     }
     return *gFile;
@@ -122,7 +228,8 @@ std::vector<std::string> absentWords(const char* list) {
         std::string text(word.substr(first, word.find_last_not_of(kBlanks) + 1 - first));
         if (text != "manager" && text != "all" &&
             std::string_view(kAccessors).find(" " + text + " ") == npos)
-            say("BREL_SIM_ABSENT: " + text + ": neither manager, all nor an accessor of IBrelManager");
+            say("BREL_SIM_ABSENT: " + text +
+                ": neither manager, all nor an accessor of IBrelManager");
         words.push_back(std::move(text));
     }
     return words;

@@ -72,6 +72,15 @@ struct __attribute__((visibility("default"))) Panel {
     static void reset();
 };
 
+// The names the service has, for checking a profile when it is first read: one line each, every
+// line after a '\n'. Written at build time by sim/names.cmake from the controls' own lines:
+//   "=Type field..."    a record and its fields, in order;
+//   "IName"             an interface, followed by its operations, one line each:
+//   " op R out:S..."    R what the operation returns, then its out-parameters, each with S what
+//                       it holds: "." no names, "Type" a record, "[Type" a sequence of records;
+//                       R may also be "-", nothing.
+extern const char kNames[];
+
 // The accessors of IBrelManager, each with a blank before and after: " getSystemCtrl ... ".
 // From the list of controls in sim/Manager.cpp.
 extern const char kAccessors[];
