@@ -48,15 +48,21 @@ struct Source {
 std::unique_ptr<Source> gFile;                  // BREL_SIM_PANEL, once read
 std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
 std::string gProblemSource = "built-in profile";
-std::vector<std::string> gAbsent;  // the words of BREL_SIM_ABSENT, once read
+const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
-std::set<std::string> gSaid;  // the problem lines written so far
+
+// The problem lines written so far. Made when first needed: a run without problems neither
+// builds it nor registers its destructor.
+std::set<std::string>& said() {
+    static std::set<std::string> lines;
+    return lines;
+}
 
 // One problem line on standard error, "dumpbrel: simulated panel: <parts>", written once per run
 // however often the operation behind it is called.
 void say(std::string line) {
     line = "dumpbrel: simulated panel: " + line + "\n";
-    if (gSaid.insert(line).second) fputs(line.c_str(), stderr);
+    if (said().insert(line).second) fputs(line.c_str(), stderr);
 }
 
 Source parse(std::string name, const std::string& text) {
@@ -213,26 +219,18 @@ const Source& builtInSource(const char* iface, const char* defaults) {
     return found->second;
 }
 
-// The words of BREL_SIM_ABSENT: split at commas, the blanks around each dropped. A word that
-// names nothing the panel can take away gets its line.
-std::vector<std::string> absentWords(const char* list) {
+// Calls `each` with every word of BREL_SIM_ABSENT's `list`: split at commas, the blanks around
+// each dropped, empty ones skipped.
+template <typename F>
+void eachAbsent(const char* list, F&& each) {
     constexpr const char* kBlanks = " \t\n\v\f\r";
-    constexpr auto npos = std::string_view::npos;
-    std::vector<std::string> words;
     for (std::string_view rest = list ? list : ""; !rest.empty();) {
         size_t comma = rest.find(',');
         std::string_view word = rest.substr(0, comma);
         rest = comma == npos ? std::string_view() : rest.substr(comma + 1);
         size_t first = word.find_first_not_of(kBlanks);
-        if (first == npos) continue;
-        std::string text(word.substr(first, word.find_last_not_of(kBlanks) + 1 - first));
-        if (text != "manager" && text != "all" &&
-            std::string_view(kAccessors).find(" " + text + " ") == npos)
-            say("BREL_SIM_ABSENT: " + text +
-                ": neither manager, all nor an accessor of IBrelManager");
-        words.push_back(std::move(text));
+        if (first != npos) each(word.substr(first, word.find_last_not_of(kBlanks) + 1 - first));
     }
-    return words;
 }
 
 }  // namespace
@@ -316,10 +314,20 @@ void Panel::trace(const std::string& line) {
 
 bool Panel::absent(const char* word) {
     if (!gAbsentRead) {
-        gAbsent = absentWords(getenv("BREL_SIM_ABSENT"));
+        gAbsent = getenv("BREL_SIM_ABSENT");
         gAbsentRead = true;
+        // A word that names nothing the panel can take away gets its line.
+        eachAbsent(gAbsent, [](std::string_view each) {
+            std::string text(each);
+            if (text != "manager" && text != "all" &&
+                std::string_view(kAccessors).find(" " + text + " ") == npos)
+                say("BREL_SIM_ABSENT: " + text +
+                    ": neither manager, all nor an accessor of IBrelManager");
+        });
     }
-    return std::find(gAbsent.begin(), gAbsent.end(), word) != gAbsent.end();
+    bool found = false;
+    eachAbsent(gAbsent, [&](std::string_view each) { found = found || each == word; });
+    return found;
 }
 
 void Panel::problem(const std::string& key, const std::string& what) {
@@ -330,7 +338,7 @@ void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
     gAbsentRead = false;
-    gSaid.clear();
+    said().clear();
 }
 
 std::string jsonString(std::string_view text) {
