@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IAiNoiseCtrl.h"
 
 namespace {
 
@@ -16,6 +16,7 @@ private:
 
 }  // namespace
 
-android::IAiNoiseCtrl* sim::newAiNoiseCtrl() {
+template <>
+android::IAiNoiseCtrl* sim::make<android::IAiNoiseCtrl>() {
     return new SimAiNoiseCtrl;
 }

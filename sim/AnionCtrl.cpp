@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IAnionCtrl.h"
 
 namespace {
 
@@ -15,6 +15,7 @@ private:
 
 }  // namespace
 
-android::IAnionCtrl* sim::newAnionCtrl() {
+template <>
+android::IAnionCtrl* sim::make<android::IAnionCtrl>() {
     return new SimAnionCtrl;
 }

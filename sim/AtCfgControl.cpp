@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IAtCfgControl.h"
 
 namespace {
 
@@ -33,6 +33,7 @@ private:
 
 }  // namespace
 
-android::IAtCfgControl* sim::newAtCfgControl() {
+template <>
+android::IAtCfgControl* sim::make<android::IAtCfgControl>() {
     return new SimAtCfgControl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IAudioCtrl.h"
 
 namespace {
 
@@ -56,6 +56,7 @@ private:
 
 }  // namespace
 
-android::IAudioCtrl* sim::newAudioCtrl() {
+template <>
+android::IAudioCtrl* sim::make<android::IAudioCtrl>() {
     return new SimAudioCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IAvManagerCtrl.h"
 
 SIM_RECORD(android::AvSignalFormat, width, height, refresh, interlaced, ycbcr, fullrange,
            subsampling, colorspace, depth, hdr, audio, channels, fidelity, samples, drm, dsc);
@@ -86,6 +86,7 @@ private:
 
 }  // namespace
 
-android::IAvManagerCtrl* sim::newAvManagerCtrl() {
+template <>
+android::IAvManagerCtrl* sim::make<android::IAvManagerCtrl>() {
     return new SimAvManagerCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IBacklightCtrl.h"
 
 namespace {
 
@@ -23,6 +23,7 @@ private:
 
 }  // namespace
 
-android::IBacklightCtrl* sim::newBacklightCtrl() {
+template <>
+android::IBacklightCtrl* sim::make<android::IBacklightCtrl>() {
     return new SimBacklightCtrl;
 }

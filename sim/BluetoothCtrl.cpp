@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IBluetoothCtrl.h"
 
 namespace {
 
@@ -16,6 +16,7 @@ private:
 
 }  // namespace
 
-android::IBluetoothCtrl* sim::newBluetoothCtrl() {
+template <>
+android::IBluetoothCtrl* sim::make<android::IBluetoothCtrl>() {
     return new SimBluetoothCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IBurnKeyCtrl.h"
 
 SIM_RECORD(android::EntitySwKey, KeyType, CurrentValue, CurrentVersion, IsSupportUsbBurn,
            UsbBurnKeyBinName, NeedRebootWhenBurned);
@@ -42,6 +42,7 @@ private:
 
 }  // namespace
 
-android::IBurnKeyCtrl* sim::newBurnKeyCtrl() {
+template <>
+android::IBurnKeyCtrl* sim::make<android::IBurnKeyCtrl>() {
     return new SimBurnKeyCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IBurnMacCtrl.h"
 
 SIM_RECORD(android::EntitySwMac, KeyType, CurrentVersion, IsSupportUsbBurn, UsbBurnKeyBinName,
            NeedRebootWhenBurned);
@@ -40,6 +40,7 @@ private:
 
 }  // namespace
 
-android::IBurnMacCtrl* sim::newBurnMacCtrl() {
+template <>
+android::IBurnMacCtrl* sim::make<android::IBurnMacCtrl>() {
     return new SimBurnMacCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ICameraCtrl.h"
 
 SIM_RECORD(android::BrelCameraInfo, info_text, value_a, value_b);
 
@@ -25,6 +25,7 @@ private:
 
 }  // namespace
 
-android::ICameraCtrl* sim::newCameraCtrl() {
+template <>
+android::ICameraCtrl* sim::make<android::ICameraCtrl>() {
     return new SimCameraCtrl;
 }

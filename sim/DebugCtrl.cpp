@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IDebugCtrl.h"
 
 namespace {
 
@@ -20,6 +20,7 @@ private:
 
 }  // namespace
 
-android::IDebugCtrl* sim::newDebugCtrl() {
+template <>
+android::IDebugCtrl* sim::make<android::IDebugCtrl>() {
     return new SimDebugCtrl;
 }

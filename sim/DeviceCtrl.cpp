@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IDeviceCtrl.h"
 
 namespace {
 
@@ -45,6 +45,7 @@ private:
 
 }  // namespace
 
-android::IDeviceCtrl* sim::newDeviceCtrl() {
+template <>
+android::IDeviceCtrl* sim::make<android::IDeviceCtrl>() {
     return new SimDeviceCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IDevicePortCtrl.h"
 
 namespace {
 
@@ -24,6 +24,7 @@ private:
 
 }  // namespace
 
-android::IDevicePortCtrl* sim::newDevicePortCtrl() {
+template <>
+android::IDevicePortCtrl* sim::make<android::IDevicePortCtrl>() {
     return new SimDevicePortCtrl;
 }

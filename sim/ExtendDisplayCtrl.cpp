@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IExtendDisplayCtrl.h"
 
 namespace {
 
@@ -38,6 +38,7 @@ private:
 
 }  // namespace
 
-android::IExtendDisplayCtrl* sim::newExtendDisplayCtrl() {
+template <>
+android::IExtendDisplayCtrl* sim::make<android::IExtendDisplayCtrl>() {
     return new SimExtendDisplayCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IFwTouchCtrl.h"
 
 SIM_RECORD(android::EntityFwTouch, touchModel, touchType, fwTouchType, touchCurrentVersion,
            isSupportUsbUpgrade, usbUpgradeTouchBinName, isSupportOtaUpgrade,
@@ -47,6 +47,7 @@ private:
 
 }  // namespace
 
-android::IFwTouchCtrl* sim::newFwTouchCtrl() {
+template <>
+android::IFwTouchCtrl* sim::make<android::IFwTouchCtrl>() {
     return new SimFwTouchCtrl;
 }

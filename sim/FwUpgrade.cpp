@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IFwUpgrade.h"
 
 SIM_RECORD(android::EntityFwInfoMcu, mcuType, fwMcuType, mcuCurrentVersion, isSupportUsbUpgrade,
            usbUpgradeMcuBinName, isSupportOtaUpgrade, otaUpgradeMcuBinPath, otaMcuBasicBinVersion,
@@ -53,6 +53,7 @@ private:
 
 }  // namespace
 
-android::IFwUpgrade* sim::newFwUpgrade() {
+template <>
+android::IFwUpgrade* sim::make<android::IFwUpgrade>() {
     return new SimFwUpgrade;
 }

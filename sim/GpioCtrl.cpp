@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IGpioCtrl.h"
 
 namespace {
 
@@ -36,6 +36,7 @@ private:
 
 }  // namespace
 
-android::IGpioCtrl* sim::newGpioCtrl() {
+template <>
+android::IGpioCtrl* sim::make<android::IGpioCtrl>() {
     return new SimGpioCtrl;
 }

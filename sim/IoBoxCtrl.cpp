@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IIoBoxCtrl.h"
 
 namespace {
 
@@ -13,6 +13,7 @@ private:
 
 }  // namespace
 
-android::IIoBoxCtrl* sim::newIoBoxCtrl() {
+template <>
+android::IIoBoxCtrl* sim::make<android::IIoBoxCtrl>() {
     return new SimIoBoxCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IKeyboardCtrl.h"
 
 namespace {
 
@@ -19,6 +19,7 @@ private:
 
 }  // namespace
 
-android::IKeyboardCtrl* sim::newKeyboardCtrl() {
+template <>
+android::IKeyboardCtrl* sim::make<android::IKeyboardCtrl>() {
     return new SimKeyboardCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ILandscapeCtrl.h"
 
 namespace {
 
@@ -19,6 +19,7 @@ private:
 
 }  // namespace
 
-android::ILandscapeCtrl* sim::newLandscapeCtrl() {
+template <>
+android::ILandscapeCtrl* sim::make<android::ILandscapeCtrl>() {
     return new SimLandscapeCtrl;
 }

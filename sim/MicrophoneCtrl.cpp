@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IMicrophoneCtrl.h"
 
 namespace {
 
@@ -19,6 +19,7 @@ private:
 
 }  // namespace
 
-android::IMicrophoneCtrl* sim::newMicrophoneCtrl() {
+template <>
+android::IMicrophoneCtrl* sim::make<android::IMicrophoneCtrl>() {
     return new SimMicrophoneCtrl;
 }

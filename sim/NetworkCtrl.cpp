@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/INetworkCtrl.h"
 
 namespace {
 
@@ -48,6 +48,7 @@ private:
 
 }  // namespace
 
-android::INetworkCtrl* sim::newNetworkCtrl() {
+template <>
+android::INetworkCtrl* sim::make<android::INetworkCtrl>() {
     return new SimNetworkCtrl;
 }

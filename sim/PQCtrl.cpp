@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IPQCtrl.h"
 
 SIM_RECORD(android::PresetColorTempRgb, r, g, b);
 
@@ -83,6 +83,7 @@ private:
 
 }  // namespace
 
-android::IPQCtrl* sim::newPQCtrl() {
+template <>
+android::IPQCtrl* sim::make<android::IPQCtrl>() {
     return new SimPQCtrl;
 }

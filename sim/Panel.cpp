@@ -13,6 +13,8 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 
 // The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h). The C
 // library's headers it uses come first, above: a C function first declared inside the hidden
@@ -49,23 +51,139 @@ std::string gProblemSource = "built-in profile";
 const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
 
+// The problem lines written so far. Made when first needed: a run without problems neither
+// builds it nor registers its destructor.
+std::set<std::string>& said() {
+    static std::set<std::string> lines;
+    return lines;
+}
+
+// One problem line on standard error, "dumpbrel: simulated panel: <parts>", written once per run
+// however often the operation behind it is called.
+void say(std::string line) {
+    line = "dumpbrel: simulated panel: " + line + "\n";
+    if (said().insert(line).second) fputs(line.c_str(), stderr);
+}
+
 Source parse(std::string name, const std::string& text) {
     Source source{std::move(name), nullptr};
     try {
         source.root = Json::parse(text);
     } catch (const Json::parse_error& e) {
-        fprintf(stderr, "dumpbrel: simulated panel: %s: not valid JSON: %s\n",
-                source.name.c_str(), e.what());
+        say(source.name + ": not valid JSON: " + e.what());
         source.root = nullptr;
         return source;
     }
     if (!source.root.is_object()) {
-        fprintf(stderr, "dumpbrel: simulated panel: %s: expected a JSON object, got %s\n",
-                source.name.c_str(), source.root.type_name());
+        say(source.name + ": expected a JSON object, got " + source.root.type_name());
         source.root = nullptr;
     }
     return source;
 }
+
+// ---- the names a profile may use ------------------------------------------------------------
+
+constexpr auto npos = std::string_view::npos;
+
+// The words of a line of kNames.
+std::vector<std::string_view> words(std::string_view line) {
+    std::vector<std::string_view> found;
+    for (size_t at = 0; at < line.size();) {
+        size_t blank = std::min(line.find(' ', at), line.size());
+        if (blank > at) found.push_back(line.substr(at, blank - at));
+        at = blank + 1;
+    }
+    return found;
+}
+
+// Whether `name` can be found in kNames: one that holds its marks is none of them.
+bool plain(const std::string& name) {
+    return !name.empty() && name.find_first_of(" \n=:[") == std::string::npos;
+}
+
+// The rest of the line of `names` that begins with `head`, or nothing.
+std::optional<std::string_view> lineAfter(std::string_view names, const std::string& head) {
+    size_t at = names.find(head);
+    if (at == npos) return std::nullopt;
+    at += head.size();
+    return names.substr(at, names.find('\n', at) - at);
+}
+
+// Names each key of a profile that the service does not have, once, on its first reading; the
+// panel never asks for such a key, so it is otherwise ignored.
+class NameCheck {
+public:
+    explicit NameCheck(std::string file) : mFile(std::move(file)) {}
+
+    void profile(const Json& root) {
+        for (const auto& panel : root.items()) {
+            const std::string& iface = panel.key();
+            size_t at = plain(iface) ? mNames.find("\n" + iface + "\n") : npos;
+            if (at == npos) {
+                unknown(iface, "no such interface");
+                continue;
+            }
+            // Its operations: the lines after its own that begin with a blank.
+            size_t begin = at + iface.size() + 1, end = begin;
+            while (end + 1 < mNames.size() && mNames[end + 1] == ' ')
+                end = mNames.find('\n', end + 1);
+            std::string_view ops = mNames.substr(begin, end + 1 - begin);
+            if (!panel.value().is_object()) continue;  // said when the panel looks there
+            for (const auto& op : panel.value().items())
+                operation(ops, iface + "." + op.key(), op.key(), op.value());
+        }
+    }
+
+private:
+    std::string_view mNames = kNames;
+    std::string mFile;
+
+    void unknown(const std::string& key, const std::string& what) {
+        say(mFile + ": " + key + ": " + what);
+    }
+
+    void operation(std::string_view ops, const std::string& key, const std::string& op,
+                   const Json& value) {
+        std::optional<std::string_view> line;
+        if (plain(op)) line = lineAfter(ops, "\n " + op + " ");
+        if (!line) return unknown(key, "no such operation");
+        std::vector<std::string_view> shapes = words(*line);  // the result's, then "out:shape"
+        if (shapes.size() == 1) return holds(key, shapes[0], value);
+        if (!value.is_object()) return;  // said when the operation is called
+        for (const auto& member : value.items()) {
+            const std::string& name = member.key();
+            std::string_view shape;
+            if (name == "result" && shapes[0] != "-") shape = shapes[0];
+            for (size_t i = 1; i < shapes.size() && shape.empty(); ++i)
+                if (shapes[i].substr(0, shapes[i].find(':')) == name)
+                    shape = shapes[i].substr(shapes[i].find(':') + 1);
+            if (shape.empty())
+                unknown(key + "." + name, "no such out-parameter");
+            else
+                holds(key + "." + name, shape, member.value());
+        }
+    }
+
+    // The names inside a value of that shape ("." none, "Type" a record, "[Type" records).
+    void holds(const std::string& key, std::string_view shape, const Json& value) {
+        if (shape == "." || shape == "-") return;
+        bool many = shape[0] == '[';
+        std::string type(many ? shape.substr(1) : shape);
+        std::vector<std::string_view> fields =
+            words(lineAfter(mNames, "\n=" + type + " ").value_or(""));
+        auto record = [&](const std::string& at, const Json& object) {
+            if (!object.is_object()) return;  // said when the operation is called
+            for (const auto& field : object.items())
+                if (std::find(fields.begin(), fields.end(), field.key()) == fields.end())
+                    unknown(at + "." + field.key(), "no such field of " + type);
+        };
+        if (!many)
+            record(key, value);
+        else if (value.is_array())
+            for (size_t i = 0; i < value.size(); ++i)
+                record(key + "[" + std::to_string(i) + "]", value[i]);
+    }
+};
 
 // The whole file into `text`; false, with errno set, when it cannot be read to its end.
 bool readFile(const char* path, std::string& text) {
@@ -84,11 +202,11 @@ const Source& fileSource(const char* path) {
     if (!gFile || gFile->name != path) {
         std::string text;
         if (!readFile(path, text)) {
-            fprintf(stderr, "dumpbrel: simulated panel: %s: cannot read: %s\n", path,
-                    strerror(errno));
+            say(std::string(path) + ": cannot read: " + strerror(errno));
             gFile = std::make_unique<Source>(Source{path, nullptr});
         } else {
             gFile = std::make_unique<Source>(parse(path, text));
+            if (!gFile->root.is_null()) NameCheck(path).profile(gFile->root);
         }
     }
     return *gFile;
@@ -99,6 +217,20 @@ const Source& builtInSource(const char* iface, const char* defaults) {
     if (found == gBuiltIn.end())
         found = gBuiltIn.emplace(iface, parse("built-in profile", defaults)).first;
     return found->second;
+}
+
+// Calls `each` with every word of BREL_SIM_ABSENT's `list`: split at commas, the blanks around
+// each dropped, empty ones skipped.
+template <typename F>
+void eachAbsent(const char* list, F&& each) {
+    constexpr const char* kBlanks = " \t\n\v\f\r";
+    for (std::string_view rest = list ? list : ""; !rest.empty();) {
+        size_t comma = rest.find(',');
+        std::string_view word = rest.substr(0, comma);
+        rest = comma == npos ? std::string_view() : rest.substr(comma + 1);
+        size_t first = word.find_first_not_of(kBlanks);
+        if (first != npos) each(word.substr(first, word.find_last_not_of(kBlanks) + 1 - first));
+    }
 }
 
 }  // namespace
@@ -171,7 +303,7 @@ void Panel::trace(const std::string& line) {
     if (!path) return;
     int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
     if (fd < 0) {
-        fprintf(stderr, "dumpbrel: simulated panel: trace %s: %s\n", path, strerror(errno));
+        say(std::string("trace ") + path + ": " + strerror(errno));
         return;
     }
     std::string text = line + "\n";
@@ -184,28 +316,29 @@ bool Panel::absent(const char* word) {
     if (!gAbsentRead) {
         gAbsent = getenv("BREL_SIM_ABSENT");
         gAbsentRead = true;
+        // A word that names nothing the panel can take away gets its line.
+        eachAbsent(gAbsent, [](std::string_view each) {
+            std::string text(each);
+            if (text != "manager" && text != "all" &&
+                std::string_view(kAccessors).find(" " + text + " ") == npos)
+                say("BREL_SIM_ABSENT: " + text +
+                    ": neither manager, all nor an accessor of IBrelManager");
+        });
     }
-    const char* list = gAbsent;
-    if (!list) return false;
-    size_t length = strlen(word);
-    for (const char* p = list;;) {
-        const char* comma = strchr(p, ',');
-        size_t size = comma ? static_cast<size_t>(comma - p) : strlen(p);
-        if (size == length && strncmp(p, word, length) == 0) return true;
-        if (!comma) return false;
-        p = comma + 1;
-    }
+    bool found = false;
+    eachAbsent(gAbsent, [&](std::string_view each) { found = found || each == word; });
+    return found;
 }
 
 void Panel::problem(const std::string& key, const std::string& what) {
-    fprintf(stderr, "dumpbrel: simulated panel: %s: %s: %s\n", gProblemSource.c_str(), key.c_str(),
-            what.c_str());
+    say(gProblemSource + ": " + key + ": " + what);
 }
 
 void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
     gAbsentRead = false;
+    said().clear();
 }
 
 std::string jsonString(std::string_view text) {

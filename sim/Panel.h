@@ -62,13 +62,33 @@ struct __attribute__((visibility("default"))) Panel {
     static Node lookup(const char* iface, const char* op, const char* defaults);
     // Appends one line to the BREL_SIM_TRACE file, if any, at once.
     static void trace(const std::string& line);
-    // Whether BREL_SIM_ABSENT, as read at the first question, names `word`.
+    // Whether BREL_SIM_ABSENT, as read at the first question, names `word`. A word of the list
+    // that is neither "manager", "all" nor one of kAccessors gets its line then.
     static bool absent(const char* word);
-    // One line on standard error: the profile, the key and what is wrong with its value.
+    // One line on standard error, once per run: the profile, the key and what is wrong there.
     static void problem(const std::string& key, const std::string& what);
-    // Forgets the parsed profiles and the absence list, so that the environment is read again.
+    // Forgets the parsed profiles, the absence list and the lines written: a new run begins, which
+    // reads the environment again.
     static void reset();
 };
+
+// The names the service has, for checking a profile when it is first read: one line each, every
+// line after a '\n'. Written at build time by sim/names.cmake from the controls' own lines:
+//   "=Type field..."    a record and its fields, in order;
+//   "IName"             an interface, followed by its operations, one line each:
+//   " op R out:S..."    R what the operation returns, then its out-parameters, each with S what
+//                       it holds: "." no names, "Type" a record, "[Type" a sequence of records;
+//                       R may also be "-", nothing.
+extern const char kNames[];
+
+// The accessors of IBrelManager, each with a blank before and after: " getSystemCtrl ... ".
+// From the list of controls in sim/Manager.cpp.
+extern const char kAccessors[];
+
+// A new control of the interface I. Each is defined beside its operations (sim/<Name>.cpp) and
+// handed out by the accessor that sim/Manager.cpp lists for it.
+template <typename I>
+I* make();
 
 // JSON text of a string as the trace writes it: only '"', '\\' and control bytes escaped,
 // UTF-8 kept, a byte that is not valid UTF-8 written as U+FFFD.

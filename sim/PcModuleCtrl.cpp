@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IPcModuleCtrl.h"
 
 namespace {
 
@@ -29,6 +29,7 @@ private:
 
 }  // namespace
 
-android::IPcModuleCtrl* sim::newPcModuleCtrl() {
+template <>
+android::IPcModuleCtrl* sim::make<android::IPcModuleCtrl>() {
     return new SimPcModuleCtrl;
 }

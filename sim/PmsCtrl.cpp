@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IPmsCtrl.h"
 
 namespace {
 
@@ -28,6 +28,7 @@ private:
 
 }  // namespace
 
-android::IPmsCtrl* sim::newPmsCtrl() {
+template <>
+android::IPmsCtrl* sim::make<android::IPmsCtrl>() {
     return new SimPmsCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IProjectId.h"
 
 namespace {
 
@@ -22,6 +22,7 @@ private:
 
 }  // namespace
 
-android::IProjectId* sim::newProjectId() {
+template <>
+android::IProjectId* sim::make<android::IProjectId>() {
     return new SimProjectId;
 }

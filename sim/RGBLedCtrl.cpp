@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IRGBLedCtrl.h"
 
 namespace {
 
@@ -23,6 +23,7 @@ private:
 
 }  // namespace
 
-android::IRGBLedCtrl* sim::newRGBLedCtrl() {
+template <>
+android::IRGBLedCtrl* sim::make<android::IRGBLedCtrl>() {
     return new SimRGBLedCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IRemoteCtrl.h"
 
 namespace {
 
@@ -27,6 +27,7 @@ private:
 
 }  // namespace
 
-android::IRemoteCtrl* sim::newRemoteCtrl() {
+template <>
+android::IRemoteCtrl* sim::make<android::IRemoteCtrl>() {
     return new SimRemoteCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IRs232Ctrl.h"
 
 namespace {
 
@@ -33,6 +33,7 @@ private:
 
 }  // namespace
 
-android::IRs232Ctrl* sim::newRs232Ctrl() {
+template <>
+android::IRs232Ctrl* sim::make<android::IRs232Ctrl>() {
     return new SimRs232Ctrl;
 }

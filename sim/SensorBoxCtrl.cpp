@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISensorBoxCtrl.h"
 
 namespace {
 
@@ -13,6 +13,7 @@ private:
 
 }  // namespace
 
-android::ISensorBoxCtrl* sim::newSensorBoxCtrl() {
+template <>
+android::ISensorBoxCtrl* sim::make<android::ISensorBoxCtrl>() {
     return new SimSensorBoxCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISerialCtrl.h"
 
 namespace {
 
@@ -25,6 +25,7 @@ private:
 
 }  // namespace
 
-android::ISerialCtrl* sim::newSerialCtrl() {
+template <>
+android::ISerialCtrl* sim::make<android::ISerialCtrl>() {
     return new SimSerialCtrl;
 }

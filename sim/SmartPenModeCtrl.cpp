@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISmartPenModeCtrl.h"
 
 namespace {
 
@@ -25,6 +25,7 @@ private:
 
 }  // namespace
 
-android::ISmartPenModeCtrl* sim::newSmartPenModeCtrl() {
+template <>
+android::ISmartPenModeCtrl* sim::make<android::ISmartPenModeCtrl>() {
     return new SimSmartPenModeCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISoundScreenAngleCtrl.h"
 
 SIM_RECORD(android::SoundScreenAngle, start_angle, end_angle);
 
@@ -25,6 +25,7 @@ private:
 
 }  // namespace
 
-android::ISoundScreenAngleCtrl* sim::newSoundScreenAngleCtrl() {
+template <>
+android::ISoundScreenAngleCtrl* sim::make<android::ISoundScreenAngleCtrl>() {
     return new SimSoundScreenAngleCtrl;
 }

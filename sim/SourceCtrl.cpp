@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISourceCtrl.h"
 
 namespace {
 
@@ -30,6 +30,7 @@ private:
 
 }  // namespace
 
-android::ISourceCtrl* sim::newSourceCtrl() {
+template <>
+android::ISourceCtrl* sim::make<android::ISourceCtrl>() {
     return new SimSourceCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISuspendCtrl.h"
 
 namespace {
 
@@ -20,6 +20,7 @@ private:
 
 }  // namespace
 
-android::ISuspendCtrl* sim::newSuspendCtrl() {
+template <>
+android::ISuspendCtrl* sim::make<android::ISuspendCtrl>() {
     return new SimSuspendCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ISystemCtrl.h"
 
 namespace {
 
@@ -124,6 +124,7 @@ private:
 
 }  // namespace
 
-android::ISystemCtrl* sim::newSystemCtrl() {
+template <>
+android::ISystemCtrl* sim::make<android::ISystemCtrl>() {
     return new SimSystemCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ITeaDspCtrl.h"
 
 namespace {
 
@@ -43,6 +43,7 @@ private:
 
 }  // namespace
 
-android::ITeaDspCtrl* sim::newTeaDspCtrl() {
+template <>
+android::ITeaDspCtrl* sim::make<android::ITeaDspCtrl>() {
     return new SimTeaDspCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ITouchCtrl.h"
 
 SIM_RECORD(android::TouchPoint, point_id, point_x, point_y);
 SIM_RECORD(android::TouchRect, rect_id, rect_p1, rect_p2);
@@ -45,6 +45,7 @@ private:
 
 }  // namespace
 
-android::ITouchCtrl* sim::newTouchCtrl() {
+template <>
+android::ITouchCtrl* sim::make<android::ITouchCtrl>() {
     return new SimTouchCtrl;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/ITxbCtrl.h"
 
 namespace {
 
@@ -29,6 +29,7 @@ private:
 
 }  // namespace
 
-android::ITxbCtrl* sim::newTxbCtrl() {
+template <>
+android::ITxbCtrl* sim::make<android::ITxbCtrl>() {
     return new SimTxbCtrl;
 }

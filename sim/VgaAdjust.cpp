@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IVgaAdjust.h"
 
 namespace {
 
@@ -16,6 +16,7 @@ private:
 
 }  // namespace
 
-android::IVgaAdjust* sim::newVgaAdjust() {
+template <>
+android::IVgaAdjust* sim::make<android::IVgaAdjust>() {
     return new SimVgaAdjust;
 }

@@ -1,5 +1,5 @@
-#include "Controls.h"
 #include "Panel.h"
+#include "service/IXbugCtrl.h"
 
 namespace {
 
@@ -30,6 +30,7 @@ private:
 
 }  // namespace
 
-android::IXbugCtrl* sim::newXbugCtrl() {
+template <>
+android::IXbugCtrl* sim::make<android::IXbugCtrl>() {
     return new SimXbugCtrl;
 }
