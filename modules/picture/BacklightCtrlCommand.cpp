@@ -32,21 +32,11 @@ Status BacklightCtrlCommand::registerAllOptions() {
     add("g", "getScreenBrightness", kNone, mBacklightCtrl,
         printResult("ScreenBrightness = ", &IBacklightCtrl::getScreenBrightness));
     add("s:", "setScreenBrightness", kRequired, mBacklightCtrl,
-        [](IBacklightCtrl& backlight, const Input& in) {
-            if (in.missing()) return USAGE;
-            int value = atoi(in.text);
-            std::cout << "setScreenBrightness = " << backlight.setScreenBrightness(value) << '\n';
-            return OK;
-        });
+        printResultForAtoi("setScreenBrightness = ", &IBacklightCtrl::setScreenBrightness));
     add("m", "getScreenMaxBrightness", kNone, mBacklightCtrl,
         printResult("CurMaxBrightness = ", &IBacklightCtrl::getScreenMaxBrightness));
     add("b:", "setScreenMaxBrightness", kRequired, mBacklightCtrl,
-        [](IBacklightCtrl& backlight, const Input& in) {
-            if (in.missing()) return USAGE;
-            int value = atoi(in.text);
-            std::cout << "SetMaxBrightness = " << backlight.setScreenMaxBrightness(value) << '\n';
-            return OK;
-        });
+        printResultForAtoi("SetMaxBrightness = ", &IBacklightCtrl::setScreenMaxBrightness));
     return OK;
 }
 
