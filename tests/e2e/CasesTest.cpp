@@ -9,8 +9,7 @@
 //            its newline) or one string of exact bytes; absent: nothing at all, null: not checked.
 //            The line "@options" stands for the option list of the sub-service args[0], "@usage"
 //            for the usage, both as the binary prints them. In "err", "@panel" stands for the
-//            profile's file, "@letter x" for the C library's line on the bad letter x (its words
-//            are its own).
+//            profile's file, "@letter x" for the C library's line on the letter x.
 //   "status" exit status (absent: 0)
 
 #include <unistd.h>

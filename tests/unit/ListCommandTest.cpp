@@ -150,8 +150,7 @@ TEST(Letters, TheLastRowRunsTheFirstPlaceDecidesTheArgument) {
     }
 }
 
-// The C library's line on a bad letter is in its own words (glibc's and bionic's differ): one
-// line on standard error, ending in the letter.
+// The C library's line on a bad letter, in its own words: one line, ending in the letter.
 bool namesLetter(const std::string& err, char letter) {
     return std::regex_match(err, std::regex(std::string("[^\n]*[ ']") + letter + "'?\n"));
 }
