@@ -12,8 +12,6 @@
 #include <iostream>
 #include <sstream>
 
-#include <gtest/gtest.h>
-
 #include "RunAs.h"
 #include "framework/DumpBrel.h"
 #include "sim/Panel.h"
@@ -130,22 +128,6 @@ bool canRunAs(int uid) {
     int wstatus = 0;
     waitpid(pid, &wstatus, 0);
     return WIFEXITED(wstatus) && WEXITSTATUS(wstatus) == 0;
-}
-
-Outcome dispatch(android::dumpbrel::DumpBrel& dumpBrel, std::vector<std::string> words) {
-    words.insert(words.begin(), "dumpbrel");
-    std::vector<char*> argv;
-    for (auto& w : words) argv.push_back(w.data());
-    argv.push_back(nullptr);
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    Outcome outcome;
-    outcome.status =
-        dumpBrel.main(android::dumpbrel::Arg{static_cast<int>(words.size()), argv.data()});
-    fflush(stdout);
-    outcome.out = testing::internal::GetCapturedStdout();
-    outcome.err = testing::internal::GetCapturedStderr();
-    return outcome;
 }
 
 }  // namespace dumpbrel_test

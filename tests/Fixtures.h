@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/DumpBrel.h"
+#include "Dispatch.h"
 
 namespace dumpbrel_test {
 
@@ -50,12 +50,5 @@ bool canRunAs(int uid);
 // Replaces the process with the binary (through the build's emulator, if any), word 0
 // "dumpbrel", on the built-in panel with no trace; as root, through a user namespace when not.
 [[noreturn]] void execBinary(const std::vector<std::string>& args);
-
-// One dispatch of `dumpBrel` in-process: "dumpbrel" and `words`, output captured.
-struct Outcome {
-    std::string out, err;
-    android::dumpbrel::Status status;
-};
-Outcome dispatch(android::dumpbrel::DumpBrel& dumpBrel, std::vector<std::string> words);
 
 }  // namespace dumpbrel_test

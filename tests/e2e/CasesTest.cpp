@@ -9,7 +9,7 @@
 //            its newline) or one string of exact bytes; absent: nothing at all, null: not checked.
 //            The line "@options" stands for the option list of the sub-service args[0], "@usage"
 //            for the usage, both as the binary prints them. In "err", "@panel" stands for the
-//            profile's file.
+//            profile's file, "@letter x" for the C library's line on the letter x.
 //   "status" exit status (absent: 0)
 
 #include <unistd.h>
@@ -83,6 +83,7 @@ TEST_P(E2E, Case) {
     Result run = runBinary(start);
     // The panel's problem lines name the profile's file, in a fresh directory each run.
     run.err = std::regex_replace(run.err, std::regex("[^\\s]*/panel\\.json"), "@panel");
+    run.err = std::regex_replace(run.err, std::regex("[^\n]* -- '?(.)'?\n"), "@letter $1\n");
 
     std::string module = start.args.empty() ? "" : start.args[0];
     const std::pair<const char*, const std::string*> texts[] = {

@@ -1,12 +1,13 @@
 // The option-table rules on small tables built here, run through the dispatcher in-process.
 
 #include <functional>
+#include <regex>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "Fixtures.h"
+#include "Dispatch.h"
 #include "framework/ListCommand.h"
 #include "service/IAnionCtrl.h"
 
@@ -149,16 +150,21 @@ TEST(Letters, TheLastRowRunsTheFirstPlaceDecidesTheArgument) {
     }
 }
 
+// The C library's line on a bad letter, in its own words: one line, ending in the letter.
+bool namesLetter(const std::string& err, char letter) {
+    return std::regex_match(err, std::regex(std::string("[^\n]*[ ']") + letter + "'?\n"));
+}
+
 TEST(Errors, LibraryDiagnosticsThenTheWordBeforeTheCluster) {
     Outcome missing = dispatch(kAnion, {"-s"});
     EXPECT_EQ(missing.out, "unknown option: -s\n" + kAnionList);
-    EXPECT_EQ(missing.err, "dumpbrel: option requires an argument -- 's'\n");
+    EXPECT_TRUE(namesLetter(missing.err, 's')) << missing.err;
     EXPECT_EQ(dispatch(kAnion, {"-:"}).out.substr(0, 19), "unknown option: -:\n");
-    EXPECT_EQ(dispatch({{"r", "reset", 0}}, {"-t"}).err, "dumpbrel: invalid option -- 't'\n");
+    EXPECT_TRUE(namesLetter(dispatch({{"r", "reset", 0}}, {"-t"}).err, 't'));
     // Inside a cluster the scanner has not moved on: the word before the cluster is named.
     Outcome cluster = dispatch({{"h", "help", 0}, {"s:", "set", 1}}, {"-s", "1", "-xh"});
     EXPECT_EQ(cluster.out.substr(0, 18), "unknown option: 1\n");
-    EXPECT_EQ(cluster.err, "dumpbrel: invalid option -- 'x'\n");
+    EXPECT_TRUE(namesLetter(cluster.err, 'x')) << cluster.err;
 }
 
 TEST(Errors, ANonZeroHandlerStopsEverythingBehindIt) {
