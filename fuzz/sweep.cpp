@@ -14,6 +14,8 @@
 // child, the runs behind it in the batch get a child of their own.
 //
 //     argument_sweep [-j jobs] [-m sub-service]... [-v]
+//
+// -v lists, before the summary, each distinct line the runs wrote to standard error, once.
 
 #include <fcntl.h>
 #include <poll.h>
@@ -29,6 +31,7 @@
 #include <deque>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -106,9 +109,9 @@ struct Slot {
 };
 
 // Text of a word for a report line: printable ASCII as it is, the rest as \xNN, long words cut.
-std::string shown(const std::string& text) {
+std::string shown(const std::string& text, size_t cut = 40) {
     std::string out;
-    for (unsigned char c : text.substr(0, 40)) {
+    for (unsigned char c : text.substr(0, cut)) {
         if (c >= 0x20 && c < 0x7f && c != '\\') {
             out += static_cast<char>(c);
         } else {
@@ -117,7 +120,7 @@ std::string shown(const std::string& text) {
             out += hex;
         }
     }
-    if (text.size() > 40) out += "...(" + std::to_string(text.size()) + " bytes)";
+    if (text.size() > cut) out += "...(" + std::to_string(text.size()) + " bytes)";
     return out;
 }
 
@@ -180,6 +183,10 @@ private:
     std::vector<Panel> mPanels;
     int mJobs;
     bool mVerbose;
+    // -v: each distinct line the runs wrote to standard error, in the order first seen, with
+    // how many runs wrote it and the first run that did.
+    std::vector<std::string> mLines;
+    std::map<std::string, std::pair<size_t, std::string>> mLineRuns;
     std::string mDir;
     std::deque<Batch> mQueue;
     size_t mRuns = 0;
@@ -341,10 +348,17 @@ void Sweep::check(const Job& job, int status, const std::string& err, const std:
                         " bytes of the 64 KiB word",
                     trace.substr(0, 2000));
     }
-    if (mVerbose && !err.empty())
-        std::cout << "-- " << job.module->name << " --" << job.row->longName << " <"
-                  << job.value->label << "> (" << job.panel->label << "):\n"
-                  << err.substr(0, 4000);
+    if (!mVerbose) return;
+    std::set<std::string> once;  // a line counts once per run
+    for (const auto& line : lines(err)) {
+        if (!once.insert(line).second) continue;
+        auto& seen = mLineRuns[line];
+        if (seen.first++ == 0) {
+            mLines.push_back(line);
+            seen.second = job.module->name + " --" + job.row->longName + " <" +
+                          job.value->label + "> (" + job.panel->label + " panel)";
+        }
+    }
 }
 
 void Sweep::finding(const Job& job, const std::string& what, const std::string& err) {
@@ -439,6 +453,11 @@ int Sweep::run() {
 
     unlink(neutral.c_str());
     rmdir(mDir.c_str());
+    for (const auto& line : mLines) {
+        const auto& seen = mLineRuns[line];
+        printf("%6zu runs, first %s: %s\n", seen.first, seen.second.c_str(),
+               shown(line, 200).c_str());
+    }
     printf("sweep: %zu sub-services, %zu long options, %zu values, %zu panels: %zu runs in %.1f s\n",
            mModules.size(), options, mValues.size(), mPanels.size(), mRuns, seconds);
     printf("sweep: %zu findings\n", mFindings);
