@@ -15,8 +15,10 @@ set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
 # libc6:arm64 (the libc the Android libraries come with) and p7zip's arm64 7z.so, which
 # libbacktrace (needed by libutils) needs. Every other path falls through to the host's
 # multiarch directories (/usr/lib/aarch64-linux-gnu), where the libraries, gtest and libc live.
+# qemu starts through cmake/qemu-aarch64-userns, in a user namespace of its own when not root.
 set(DUMPBREL_ARM64_SYSROOT /opt/dumpbrel-arm64-sysroot)
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64 -L ${DUMPBREL_ARM64_SYSROOT})
+set(CMAKE_CROSSCOMPILING_EMULATOR
+  ${CMAKE_CURRENT_LIST_DIR}/qemu-aarch64-userns -L ${DUMPBREL_ARM64_SYSROOT})
 
 # The linker only has to see 7z.so to resolve libbacktrace's needs.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${DUMPBREL_ARM64_SYSROOT}/usr/lib/p7zip")

@@ -11,6 +11,7 @@
 
 #include "framework/DumpBrel.h"
 #include "sim/Panel.h"
+#include "tests/RunAs.h"
 
 // Present in sanitizer runtimes only.
 extern "C" void __sanitizer_set_report_fd(void* fd) __attribute__((weak));
@@ -28,6 +29,12 @@ void setUp() {
     static bool done = false;
     if (done) return;
     done = true;
+    // The tool runs only as root or the shell user: anybody else runs it in a user namespace of
+    // its own, as the tests do; with neither at hand there is nothing to fuzz.
+    if (!dumpbrel_test::runAsToolUser()) {
+        fprintf(stderr, "dumpbrel fuzz: skipped: not root, and no user namespaces\n");
+        exit(77);
+    }
     int fd = fcntl(2, F_DUPFD_CLOEXEC, 10);
     if (fd >= 0) gReportFd = fd;
     if (__sanitizer_set_report_fd)

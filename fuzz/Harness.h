@@ -15,8 +15,10 @@ enum class Profile {
     kNeutral,  // the profile "{}": every operation answers neutrally
 };
 
-// Once per process, before anything is silenced: keeps a descriptor on the real standard error
-// for reports, hands it to the sanitizers, and puts standard input on /dev/null.
+// Once per process, before anything is silenced: becomes a user the tool runs as (root in a user
+// namespace of its own when not root; exits with 77 when neither is at hand), keeps a descriptor
+// on the real standard error for reports, hands it to the sanitizers, and puts standard input on
+// /dev/null.
 void setUp();
 
 // Makes the next dispatch read `profile` afresh, with no interface absent and no trace.

@@ -16,15 +16,10 @@
 #include <vector>
 
 #include "Harness.h"
-#include "tests/RunAs.h"
 
 namespace fs = std::filesystem;
 
 int main(int argc, char** argv) {
-    if (!dumpbrel_test::runAsToolUser()) {
-        fprintf(stderr, "replay: skipped: not root, and no user namespaces\n");
-        return 77;
-    }
     std::vector<fs::path> inputs;
     for (int i = 1; i < argc; ++i) {
         std::error_code error;
@@ -38,7 +33,7 @@ int main(int argc, char** argv) {
     }
     std::sort(inputs.begin(), inputs.end());
 
-    dumpbrel_fuzz::setUp();
+    dumpbrel_fuzz::setUp();  // exits with 77 (skipped) where the tool cannot be run
     int null = open("/dev/null", O_WRONLY);
     for (const auto& path : inputs) {
         std::ifstream in(path, std::ios::binary);

@@ -122,7 +122,6 @@ void execBinary(const std::vector<std::string>& args) {
 }
 
 bool canRunAs(int uid) {
-    if (getuid() == 0) return true;
     pid_t pid = fork();
     if (pid == 0) _exit(runAs(uid) ? 0 : 1);
     int wstatus = 0;

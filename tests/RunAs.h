@@ -13,13 +13,14 @@
 
 namespace dumpbrel_test {
 
-// Makes this process run as `uid`: root switches to it; anybody else enters a new user
-// namespace in which their own account is `uid`. False when neither can be done.
+// Makes this process run as `uid`: root switches to it; anybody else (or root in a user
+// namespace without `uid`) enters a new user namespace in which their own account is `uid`.
+// False when neither can be done.
 inline bool runAs(uid_t uid) {
     const uid_t outerUid = getuid();
     const gid_t outerGid = getgid();
     if (outerUid == uid) return true;
-    if (outerUid == 0) return setgid(uid) == 0 && setuid(uid) == 0;
+    if (outerUid == 0 && setgid(uid) == 0 && setuid(uid) == 0) return true;
     auto put = [](const char* path, const std::string& text) {
         int fd = open(path, O_WRONLY | O_CLOEXEC);
         if (fd < 0) return false;

@@ -1,9 +1,8 @@
-#include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <string>
 
 #include "framework/ListCommand.h"
+#include "framework/Rows.h"
 #include "service/IAnionCtrl.h"
 
 namespace android {
@@ -28,12 +27,8 @@ AnionCtrlCommand::AnionCtrlCommand(DumpBrel& parent)
 
 Status AnionCtrlCommand::registerAllOptions() {
     addHelp();
-    add("s:", "setAnionStatus", kRequired, mAnionCtrl, [](IAnionCtrl& anion, const Input& in) {
-        int status = atoi(in.text);
-        std::cout << "setAnionStatus: " << in.text << ", ret:" << anion.setAnionStatus(status)
-                  << '\n';
-        return OK;
-    });
+    add("s:", "setAnionStatus", kRequired, mAnionCtrl,
+        printTextAndResult("setAnionStatus: ", &IAnionCtrl::setAnionStatus, ", ret:"));
     return OK;
 }
 

@@ -73,7 +73,8 @@ TEST_P(E2E, Case) {
     Start start;
     start.uid = row.value("uid", -1);
     if (start.uid >= 0 && !canRunAs(start.uid))
-        GTEST_SKIP() << "cannot run as uid " << start.uid << ": not root, and no user namespaces";
+        GTEST_SKIP() << "cannot run as uid " << start.uid
+                     << " here: not root, and no user namespace to enter";
     start.args = row.value("args", std::vector<std::string>());
     if (row.contains("panel"))
         start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()

@@ -9,7 +9,6 @@
 
 #include "Dispatch.h"
 #include "framework/ListCommand.h"
-#include "service/IAnionCtrl.h"
 
 namespace android {
 namespace dumpbrel {
@@ -27,10 +26,7 @@ struct Row {
     Body body = nullptr;  // null: the row records "longOption(argument)"
 };
 
-class FakeAnion : public IAnionCtrl {
-public:
-    int setAnionStatus(int) override { return 0; }
-};
+struct Fake : RefBase {};  // an interface of the test's own: the service's may grow freely
 
 // A sub-service "T" whose rows record what they were given. Rows with a body run behind the
 // null-interface guard, on an interface that is there unless `absent`.
@@ -38,15 +34,15 @@ class TableCommand : public ListCommand {
 public:
     TableCommand(DumpBrel& parent, std::vector<Row> rows, Seen& seen, bool absent)
         : ListCommand(parent), mRows(std::move(rows)), mSeen(seen) {
-        if (!absent) mAnion = new FakeAnion;
+        if (!absent) mFake = new Fake;
     }
     std::string getName() const override { return "T"; }
     std::string getSimpleDescription() const override { return "T Module"; }
     Status registerAllOptions() override {
         for (const Row& row : mRows) {
             if (row.body) {
-                add(row.shortOption, row.longOption, row.hasArg, mAnion,
-                    [this, row](IAnionCtrl&, const Input& in) { return row.body(in, mSeen); },
+                add(row.shortOption, row.longOption, row.hasArg, mFake,
+                    [this, row](Fake&, const Input& in) { return row.body(in, mSeen); },
                     row.help);
                 continue;
             }
@@ -64,7 +60,7 @@ public:
 private:
     std::vector<Row> mRows;
     Seen& mSeen;
-    sp<IAnionCtrl> mAnion;
+    sp<Fake> mFake;
 };
 
 struct Outcome : dumpbrel_test::Outcome {
