@@ -130,12 +130,13 @@ private:
         if (!line) return unknown(key, "no such operation");
         std::vector<std::string_view> shapes = words(*line);  // in-arguments, result, "out:shape"
         if (open != npos) {
-            Json list = Json::parse("[" + op.substr(open + 1, op.size() - open - 2) + "]", nullptr,
-                                    false);
-            size_t takes = std::stoul(std::string(shapes[0]));
-            auto count = [](size_t n) { return std::to_string(n) + (n == 1 ? " argument" : " arguments"); };
+            std::string arguments = "[" + op.substr(open + 1, op.size() - open - 2) + "]";
+            Json list = Json::parse(arguments, nullptr, false);
             if (list.is_discarded()) return unknown(key, "arguments not as the trace writes them");
-            if (list.size() != takes) return unknown(key, "takes " + count(takes) + ", not " + std::to_string(list.size()));
+            std::string takes(shapes[0]);
+            takes += takes == "1" ? " argument" : " arguments";
+            if (list.size() != std::stoul(takes))
+                return unknown(key, "takes " + takes + ", not " + std::to_string(list.size()));
         }
         shapes.erase(shapes.begin());
         if (shapes.size() == 1) return holds(key, shapes[0], value);
