@@ -39,15 +39,16 @@ bool writeAll(int fd, const std::string& text) {
 }
 
 // `root` written whole to "<path>.new", which then replaces the file; false, with errno set,
-// when it cannot be. The file keeps its permissions.
+// when it cannot be. A file that was there keeps its permissions.
 bool replace(const std::string& path, const Json& root) {
     std::string fresh = path + ".new";
     std::string text = root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
     struct stat old;
-    mode_t mode = stat(path.c_str(), &old) == 0 ? old.st_mode & 07777 : 0644;
-    int fd = open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+    bool existed = stat(path.c_str(), &old) == 0;
+    int fd = open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0) return false;
-    bool written = fchmod(fd, mode) == 0 && writeAll(fd, text) && fsync(fd) == 0;
+    bool written = (!existed || fchmod(fd, old.st_mode & 07777) == 0) && writeAll(fd, text) &&
+                   fsync(fd) == 0;
     int error = errno;
     close(fd);
     if (written && rename(fresh.c_str(), path.c_str()) == 0) return true;
@@ -97,13 +98,13 @@ void Panel::remember(const char* iface, const char* op, const std::string& line,
             lock = -1;
         }
     }
-    if (lock < 0) return say(state.path + ": cannot lock: " + strerror(errno));
+    if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
     Json root = readProfile(state.path.c_str(), true);
     if (!root.is_null()) {
         Json& panel = root[iface];
         if (!panel.is_object()) panel = Json::object();
         panel[key] = std::move(value);
-        if (!replace(state.path, root)) say(state.path + ": cannot write: " + strerror(errno));
+        if (!replace(state.path, root)) say(state.path + ": cannot store: " + strerror(errno));
     }
     state.root = std::move(root);  // what the file holds now, others' stores included
     close(lock);
