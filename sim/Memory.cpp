@@ -99,7 +99,7 @@ void Panel::remember(const char* iface, const char* op, const std::string& line,
         }
     }
     if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
-    Json root = readProfile(state.path.c_str(), true);
+    Json root = readProfile(state.path.c_str(), true, false);  // its names were checked
     if (!root.is_null()) {
         Json& panel = root[iface];
         if (!panel.is_object()) panel = Json::object();

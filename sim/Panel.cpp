@@ -198,7 +198,7 @@ static bool readFile(const char* path, std::string& text) {
     return n == 0;
 }
 
-Json readProfile(const char* path, bool memory) {
+Json readProfile(const char* path, bool memory, bool check) {
     std::string text;
     if (!readFile(path, text)) {
         if (memory && errno == ENOENT) return Json::object();
@@ -207,7 +207,7 @@ Json readProfile(const char* path, bool memory) {
     }
     if (memory && text.empty()) return Json::object();
     Source source = parse(path, text);
-    if (!source.root.is_null()) NameCheck(path).profile(source.root);
+    if (check && !source.root.is_null()) NameCheck(path).profile(source.root);
     return source.root;
 }
 

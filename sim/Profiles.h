@@ -30,10 +30,10 @@ using Json = nlohmann::json;
 // however often the operation behind it is called.
 void say(std::string line);
 
-// The profile in the file `path`, its names checked against the service's, or null after the
-// one line that says why it cannot be used. With `memory`, a file that does not exist or is
-// empty is an empty profile.
-Json readProfile(const char* path, bool memory);
+// The profile in the file `path`, its names checked against the service's when `check`, or null
+// after the one line that says why it cannot be used. With `memory`, a file that does not exist
+// or is empty is an empty profile.
+Json readProfile(const char* path, bool memory, bool check = true);
 
 // From now on, problem lines about values name `source`.
 void blame(const std::string& source);
