@@ -3,30 +3,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cassert>
-#include <cctype>
 #include <cerrno>
-#include <clocale>
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <optional>
 #include <set>
 
-// The JSON library's instances stay inside too, like the rest of the mechanism (Panel.h). The C
-// library's headers it uses come first, above: a C function first declared inside the hidden
-// region is taken to be this library's own (assert's __assert_fail, in a build without NDEBUG)
-// and the link fails. The C++ library's headers mark their own declarations visible.
-#pragma GCC visibility push(hidden)
-#include <nlohmann/json.hpp>
-#pragma GCC visibility pop
+#include "Profiles.h"
 
 namespace sim {
-
-using Json = nlohmann::json;
 
 namespace {
 
@@ -56,13 +41,6 @@ bool gAbsentRead = false;
 std::set<std::string>& said() {
     static std::set<std::string> lines;
     return lines;
-}
-
-// One problem line on standard error, "dumpbrel: simulated panel: <parts>", written once per run
-// however often the operation behind it is called.
-void say(std::string line) {
-    line = "dumpbrel: simulated panel: " + line + "\n";
-    if (said().insert(line).second) fputs(line.c_str(), stderr);
 }
 
 Source parse(std::string name, const std::string& text) {
@@ -144,10 +122,23 @@ private:
 
     void operation(std::string_view ops, const std::string& key, const std::string& op,
                    const Json& value) {
+        // "op" or "op(arguments)", the arguments as the trace writes them
+        size_t open = op.back() == ')' ? op.find('(') : npos;
+        std::string name = op.substr(0, open);
         std::optional<std::string_view> line;
-        if (plain(op)) line = lineAfter(ops, "\n " + op + " ");
+        if (plain(name)) line = lineAfter(ops, "\n " + name + " ");
         if (!line) return unknown(key, "no such operation");
-        std::vector<std::string_view> shapes = words(*line);  // the result's, then "out:shape"
+        std::vector<std::string_view> shapes = words(*line);  // in-arguments, result, "out:shape"
+        if (open != npos) {
+            std::string arguments = "[" + op.substr(open + 1, op.size() - open - 2) + "]";
+            Json list = Json::parse(arguments, nullptr, false);
+            if (list.is_discarded()) return unknown(key, "arguments not as the trace writes them");
+            std::string takes(shapes[0]);
+            takes += takes == "1" ? " argument" : " arguments";
+            if (list.size() != std::stoul(takes))
+                return unknown(key, "takes " + takes + ", not " + std::to_string(list.size()));
+        }
+        shapes.erase(shapes.begin());
         if (shapes.size() == 1) return holds(key, shapes[0], value);
         if (!value.is_object()) return;  // said when the operation is called
         for (const auto& member : value.items()) {
@@ -185,8 +176,17 @@ private:
     }
 };
 
+}  // namespace
+
+void say(std::string line) {
+    line = "dumpbrel: simulated panel: " + line + "\n";
+    if (said().insert(line).second) fputs(line.c_str(), stderr);
+}
+
+void blame(const std::string& source) { gProblemSource = source; }
+
 // The whole file into `text`; false, with errno set, when it cannot be read to its end.
-bool readFile(const char* path, std::string& text) {
+static bool readFile(const char* path, std::string& text) {
     int fd = open(path, O_RDONLY | O_CLOEXEC);
     if (fd < 0) return false;
     char buffer[4096];
@@ -198,17 +198,24 @@ bool readFile(const char* path, std::string& text) {
     return n == 0;
 }
 
-const Source& fileSource(const char* path) {
-    if (!gFile || gFile->name != path) {
-        std::string text;
-        if (!readFile(path, text)) {
-            say(std::string(path) + ": cannot read: " + strerror(errno));
-            gFile = std::make_unique<Source>(Source{path, nullptr});
-        } else {
-            gFile = std::make_unique<Source>(parse(path, text));
-            if (!gFile->root.is_null()) NameCheck(path).profile(gFile->root);
-        }
+Json readProfile(const char* path, bool memory, bool check) {
+    std::string text;
+    if (!readFile(path, text)) {
+        if (memory && errno == ENOENT) return Json::object();
+        say(std::string(path) + ": cannot read: " + strerror(errno));
+        return nullptr;
     }
+    if (memory && text.empty()) return Json::object();
+    Source source = parse(path, text);
+    if (check && !source.root.is_null()) NameCheck(path).profile(source.root);
+    return source.root;
+}
+
+namespace {
+
+const Source& fileSource(const char* path) {
+    if (!gFile || gFile->name != path)
+        gFile = std::make_unique<Source>(Source{path, readProfile(path, false)});
     return *gFile;
 }
 
@@ -282,20 +289,29 @@ double Node::getNumber() const { return json(mJson)->get<double>(); }
 bool Node::getBool() const { return json(mJson)->get<bool>(); }
 std::string Node::getString() const { return json(mJson)->get<std::string>(); }
 
-Node Panel::lookup(const char* iface, const char* op, const char* defaults) {
+Node Panel::lookup(const char* iface, const char* op, const std::string& line,
+                   const char* defaults, bool memory, std::string& key) {
     const char* path = envOrNull("BREL_SIM_PANEL");
-    const Source& source = path ? fileSource(path) : builtInSource(iface, defaults);
-    gProblemSource = source.name;
-    if (source.root.is_null()) return Node();
-    if (path) {
-        Node panel = Node(&source.root).member(iface);
+    const Json* root = memory ? recalled() : nullptr;
+    if (!memory) {
+        const Source& source = path ? fileSource(path) : builtInSource(iface, defaults);
+        gProblemSource = source.name;
+        root = &source.root;
+    }
+    if (!root || root->is_null()) return Node();
+    Node panel(root);
+    if (memory || path) {
+        panel = panel.member(iface);
         if (panel.exists() && !panel.isObject()) {
             problem(iface, std::string("expected an object of operations, got ") + panel.typeName());
             return Node();
         }
-        return panel.member(op);
     }
-    return Node(&source.root).member(op);
+    key = line.substr(line.find('.') + 1);  // op(arguments)
+    Node found = panel.member(key.c_str());
+    if (!found.exists()) found = panel.member((key = op).c_str());
+    key = std::string(iface) + "." + key;
+    return found;
 }
 
 void Panel::trace(const std::string& line) {
@@ -338,6 +354,7 @@ void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
     gAbsentRead = false;
+    forget();
     said().clear();
 }
 

@@ -5,9 +5,10 @@
 //     int setAnionStatus(int status) override { return call<int>(__func__, status); }
 //
 // call<R>() writes the trace line, finds the scripted value under the interface's and the
-// operation's name in the profile in force, converts it to R (records and vectors included),
-// fills the out-parameters wrapped in out()/outArray(), and answers neutrally (R{}) for
-// anything the profile does not name.
+// operation's name (with the call's arguments, then without) in the memory (BREL_SIM_STATE) and
+// then in the profile in force, converts it to R (records and vectors included), fills the
+// out-parameters wrapped in out()/outArray(), and answers neutrally (R{}) for anything neither
+// names. A setter that pairs with a getter (kPairs) leaves its value in the memory.
 
 #include <algorithm>
 #include <cstddef>
@@ -57,9 +58,16 @@ private:
 
 // Shared state behind every control: the profile, the trace, the absence list.
 struct __attribute__((visibility("default"))) Panel {
-    // The value scripted for iface.op, from BREL_SIM_PANEL when set, else from `defaults`,
-    // the interface's part of the built-in profile. Each source is parsed when first asked.
-    static Node lookup(const char* iface, const char* op, const char* defaults);
+    // The value scripted for the call `line` ("IName.op(arguments)") of iface.op: from the
+    // memory when `memory`, else from BREL_SIM_PANEL when set, else from `defaults`, the
+    // interface's part of the built-in profile; under the key with the arguments first, then
+    // under op. `key` becomes the one found, for problem lines. Each source is parsed when
+    // first asked.
+    static Node lookup(const char* iface, const char* op, const std::string& line,
+                       const char* defaults, bool memory, std::string& key);
+    // With BREL_SIM_STATE set, a setter's call `line`, whose last in-argument begins at `last`,
+    // stores that argument as its getter's answer (sim/Memory.cpp).
+    static void remember(const char* iface, const char* op, const std::string& line, size_t last);
     // Appends one line to the BREL_SIM_TRACE file, if any, at once.
     static void trace(const std::string& line);
     // Whether BREL_SIM_ABSENT, as read at the first question, names `word`. A word of the list
@@ -80,6 +88,10 @@ struct __attribute__((visibility("default"))) Panel {
 //                       it holds: "." no names, "Type" a record, "[Type" a sequence of records;
 //                       R may also be "-", nothing.
 extern const char kNames[];
+
+// The setters BREL_SIM_STATE remembers, and their getters: "IName setX getX", every line after
+// a '\n'. Written by sim/names.cmake beside kNames.
+extern const char kPairs[];
 
 // The accessors of IBrelManager, each with a blank before and after: " getSystemCtrl ... ".
 // From the list of controls in sim/Manager.cpp.
@@ -156,7 +168,11 @@ struct IsVector<std::vector<T, A>> : std::true_type {};
 // Where a conversion stands, for the problem line.
 struct Reader {
     std::string key;  // "IAudioCtrl.getEQMode", then ".field", "[2]" while descending
-    void problem(const std::string& what) const { Panel::problem(key, what); }
+    mutable bool failed = false;
+    void problem(const std::string& what) const {
+        failed = true;
+        Panel::problem(key, what);
+    }
 };
 
 // ---- profile value to C++ -----------------------------------------------------------------
@@ -330,28 +346,24 @@ protected:
     template <typename R = void, typename... A>
     R call(const char* op, const A&... args) {
         std::string line = std::string(mName) + "." + op + "(";
-        [[maybe_unused]] bool first = true;
-        (traceArgument(line, first, args), ...);
+        size_t last = 0;  // where the last in-argument begins
+        (traceArgument(line, last, args), ...);
         line += ')';
 
-        Node node = Panel::lookup(mName, op, mDefaults);
-        Reader reader{line.substr(0, line.find('('))};
-        constexpr bool hasOut = (IsOut<A>::value || ...);
+        // The memory first; a value there that cannot be read leaves the answer to the profile.
+        std::conditional_t<std::is_void_v<R>, bool, R> result{};
+        for (bool memory : {true, false}) {
+            Reader reader;
+            Node node = Panel::lookup(mName, op, line, mDefaults, memory, reader.key);
+            if (!node.exists()) continue;
+            answer<R>(reader, node, result, args...);
+            if (!memory || !reader.failed) break;
+            result = {};
+        }
+        if (last) Panel::remember(mName, op, line, last);
         if constexpr (std::is_void_v<R>) {
-            if constexpr (hasOut) fillOuts(reader, node, args...);
             Panel::trace(line);
         } else {
-            R result{};
-            if (node.exists()) {
-                if constexpr (hasOut) {
-                    if (fillOuts(reader, node, args...) && node.member("result").exists()) {
-                        reader.key += ".result";
-                        read(reader, node.member("result"), result);
-                    }
-                } else {
-                    read(reader, node, result);
-                }
-            }
             line += " -> ";
             write(line, result);
             Panel::trace(line);
@@ -364,11 +376,26 @@ private:
     const char* mDefaults;
 
     template <typename T>
-    static void traceArgument(std::string& line, bool& first, const T& argument) {
+    static void traceArgument(std::string& line, size_t& last, const T& argument) {
         if constexpr (!IsOut<T>::value) {
-            if (!first) line += ", ";
-            first = false;
+            if (last) line += ", ";
+            last = line.size();
             write(line, argument);
+        }
+    }
+
+    template <typename R, typename T, typename... A>
+    static void answer(Reader& reader, Node node, T& result, const A&... args) {
+        constexpr bool hasOut = (IsOut<A>::value || ...);
+        if constexpr (std::is_void_v<R>) {
+            if constexpr (hasOut) fillOuts(reader, node, args...);
+        } else if constexpr (hasOut) {
+            if (fillOuts(reader, node, args...) && node.member("result").exists()) {
+                reader.key += ".result";
+                read(reader, node.member("result"), result);
+            }
+        } else {
+            read(reader, node, result);
         }
     }
 
@@ -395,6 +422,7 @@ private:
                 readArray(at, value, argument);
             else
                 read(at, value, argument.ref);
+            reader.failed = reader.failed || at.failed;
         }
     }
 };

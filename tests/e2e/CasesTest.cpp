@@ -9,13 +9,22 @@
 //            its newline) or one string of exact bytes; absent: nothing at all, null: not checked.
 //            The line "@options" stands for the option list of the sub-service args[0], "@usage"
 //            for the usage, both as the binary prints them. In "err", "@panel" stands for the
-//            profile's file, "@letter x" for the C library's line on the letter x.
+//            profile's file, "@state" the memory's, "@letter x" the C library's line on the
+//            letter x.
 //   "status" exit status (absent: 0)
+//   "state"  the memory's file (BREL_SIM_STATE) before the run; null: none
+//   "file"   its exact text after the run     "next"  a case run next on the same memory
 
+#include <signal.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
+
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <random>
 #include <regex>
 #include <string>
 #include <vector>
@@ -68,8 +77,7 @@ std::string expected(const Json& spec, const std::string& module) {
 
 class E2E : public testing::TestWithParam<Case> {};
 
-TEST_P(E2E, Case) {
-    const Json& row = GetParam().row;
+void check(const Json& row, const std::string& state) {
     Start start;
     start.uid = row.value("uid", -1);
     if (start.uid >= 0 && !canRunAs(start.uid))
@@ -80,10 +88,13 @@ TEST_P(E2E, Case) {
         start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()
                                                : row["panel"].dump();
     start.env = row.value("env", std::map<std::string, std::string>());
+    if (!state.empty()) start.env["BREL_SIM_STATE"] = state;
+    if (row.contains("state") && !row["state"].is_null())
+        std::ofstream(state) << row["state"].get<std::string>();
     if (row.contains("stdin")) start.input = row["stdin"].get<std::string>();
     Result run = runBinary(start);
     // The panel's problem lines name the profile's file, in a fresh directory each run.
-    run.err = std::regex_replace(run.err, std::regex("[^\\s]*/panel\\.json"), "@panel");
+    run.err = std::regex_replace(run.err, std::regex("[^\\s]*/(panel|state)\\.json"), "@$1");
     run.err = std::regex_replace(run.err, std::regex("[^\n]* -- '?(.)'?\n"), "@letter $1\n");
 
     std::string module = start.args.empty() ? "" : start.args[0];
@@ -94,12 +105,69 @@ TEST_P(E2E, Case) {
         EXPECT_EQ(*actual, expected(row.value(key, Json::array()), module)) << "(" << key << ")";
     }
     EXPECT_EQ(run.status, row.value("status", 0));
+    if (row.contains("file")) {
+        std::ifstream in(state);
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), row["file"]);
+    }
+    if (row.contains("next")) check(row["next"], state);
+}
+
+struct StateDir {
+    char dir[28] = "/tmp/dumpbrel-state-XXXXXX";
+    std::string state = mkdtemp(dir) + std::string("/state.json");
+    ~StateDir() { std::filesystem::remove_all(dir); }
+};
+
+TEST_P(E2E, Case) {
+    StateDir at;
+    check(GetParam().row, GetParam().row.contains("state") ? at.state : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, E2E, testing::ValuesIn(loadCases()),
                          [](const testing::TestParamInfo<Case>& info) {
                              return "case_" + std::to_string(info.param.index);
                          });
+
+class Memory : public testing::Test, public StateDir {
+protected:
+    Start stores(int first) {  // setAudioGain(i, 1) for 25 i from first
+        Start start;
+        start.args = {"AudioCtrl"};
+        start.env["BREL_SIM_STATE"] = state;
+        for (int i = first; i < first + 25; ++i)
+            start.args.insert(start.args.end(), {"-d", std::to_string(i) + ",1"});
+        return start;
+    }
+    Json stored() { return Json::parse(std::ifstream(state)).at("IAudioCtrl"); }
+};
+
+TEST_F(Memory, EightRunsAtOnceLoseNoStore) {
+    std::vector<pid_t> runs;
+    for (int run = 0; run < 8; ++run)
+        if ((runs.emplace_back(fork())) == 0) _exit(runBinary(stores(25 * run)).status);
+    for (pid_t pid : runs) waitpid(pid, nullptr, 0);
+    EXPECT_EQ(stored().size(), 200u);
+}
+
+TEST_F(Memory, AKilledRunLeavesAWholeFile) {
+    using namespace std::chrono;
+    auto begin = steady_clock::now();
+    ASSERT_EQ(runBinary(stores(0)).status, 0);
+    std::uniform_int_distribution<long> moment(0, (steady_clock::now() - begin) / microseconds(1));
+    std::mt19937 random(std::random_device{}());
+    for (int kill = 1; kill <= 25; ++kill) {
+        pid_t pid = fork();
+        if (pid == 0) {
+            setenv("BREL_SIM_STATE", state.c_str(), 1);
+            freopen("/dev/null", "w", stdout);
+            execBinary(stores(25 * kill).args);
+        }
+        usleep(static_cast<useconds_t>(moment(random)));
+        ::kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+        EXPECT_GE(stored().size(), 25u);
+    }
+}
 
 }  // namespace
 }  // namespace dumpbrel_test

@@ -1,0 +1,113 @@
+// The panel's memory (BREL_SIM_STATE): a profile in a file that the paired setters (kPairs) write
+// into and that every call reads before the profile in force. Runs that share the file store
+// under an exclusive lock on "<file>.lock", each reading it again and replacing it whole through
+// "<file>.new", so a killed run leaves the old file or the new one and no update is lost.
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string_view>
+
+#include "Profiles.h"
+
+namespace sim {
+
+namespace {
+
+struct Memory {
+    std::string path;  // BREL_SIM_STATE when last read
+    Json root;         // what the file holds; null when it cannot be used
+};
+
+// Made when BREL_SIM_STATE is first seen: a run without it neither builds it nor registers its
+// destructor.
+Memory& memory() {
+    static Memory state{"", nullptr};
+    return state;
+}
+
+bool writeAll(int fd, const std::string& text) {
+    for (size_t done = 0; done < text.size();) {
+        ssize_t n = ::write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno != EINTR) return false;
+        if (n > 0) done += static_cast<size_t>(n);
+    }
+    return true;
+}
+
+// `root` written whole to "<path>.new", which then replaces the file; false, with errno set,
+// when it cannot be. A file that was there keeps its permissions.
+bool replace(const std::string& path, const Json& root) {
+    std::string fresh = path + ".new";
+    std::string text = root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    struct stat old;
+    bool existed = stat(path.c_str(), &old) == 0;
+    int fd = open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0) return false;
+    bool written = (!existed || fchmod(fd, old.st_mode & 07777) == 0) && writeAll(fd, text) &&
+                   fsync(fd) == 0;
+    int error = errno;
+    close(fd);
+    if (written && rename(fresh.c_str(), path.c_str()) == 0) return true;
+    if (written) error = errno;
+    unlink(fresh.c_str());
+    errno = error;
+    return false;
+}
+
+}  // namespace
+
+const Json* recalled() {
+    const char* path = getenv("BREL_SIM_STATE");
+    if (!path || !*path) return nullptr;
+    Memory& state = memory();
+    if (state.path != path) {
+        state.path = path;
+        state.root = readProfile(path, true);
+    }
+    blame(state.path);
+    return state.root.is_null() ? nullptr : &state.root;
+}
+
+void forget() {
+    if (getenv("BREL_SIM_STATE")) memory() = Memory{"", nullptr};
+}
+
+void Panel::remember(const char* iface, const char* op, const std::string& line, size_t last) {
+    if (!recalled()) return;
+    // The getter, and its key: the other in-arguments as the trace wrote them.
+    std::string_view pairs = kPairs;
+    std::string head = "\n" + std::string(iface) + " " + op + " ";
+    size_t at = pairs.find(head);
+    if (at == std::string_view::npos) return;
+    at += head.size();
+    std::string key(pairs.substr(at, pairs.find('\n', at) - at));
+    size_t open = line.find('(');
+    if (last > open + 1) key += line.substr(open, last - 2 - open) + ")";
+    Json value = Json::parse(line.substr(last, line.size() - 1 - last), nullptr, false);
+    if (value.is_discarded()) return;  // a float the trace writes as inf or nan
+
+    Memory& state = memory();
+    int lock = ::open((state.path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    while (lock >= 0 && flock(lock, LOCK_EX) != 0) {
+        if (errno != EINTR) {
+            close(lock);
+            lock = -1;
+        }
+    }
+    if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
+    Json root = readProfile(state.path.c_str(), true, false);  // its names were checked
+    if (!root.is_null()) {
+        Json& panel = root[iface];
+        if (!panel.is_object()) panel = Json::object();
+        panel[key] = std::move(value);
+        if (!replace(state.path, root)) say(state.path + ": cannot store: " + strerror(errno));
+    }
+    state.root = std::move(root);  // what the file holds now, others' stores included
+    close(lock);
+}
+
+}  // namespace sim
