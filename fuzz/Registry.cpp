@@ -19,7 +19,8 @@ std::vector<Module> walkRegistry() {
         Module module{command->getName(), {}};
         for (const auto& option : table->getOptions())
             module.rows.push_back({std::string(option.shortOption),
-                                   std::string(option.longOption), option.hasArg});
+                                   std::string(option.longOption), option.hasArg,
+                                   std::string(option.help)});
         modules.push_back(std::move(module));
     });
     return modules;

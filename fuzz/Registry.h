@@ -12,6 +12,7 @@ struct Row {
     std::string shortSpec;  // as registered, colons included; may be empty
     std::string longName;   // without dashes
     int hasArg = 0;         // argument rule of the long form
+    std::string help;       // as registered; may be empty or hold newlines
 };
 
 struct Module {

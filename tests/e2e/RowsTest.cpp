@@ -1,80 +1,21 @@
 // What holds for every row of every sub-service, walked from the registry so that it follows the
 // modules as they change; and what every row prints on the built-in panel, compared with the
-// listing captured in rows.golden. Runs go through the binary's entry in forked children. After a change that is meant to alter what rows print,
-// rewrite that listing and read its diff:
+// listing captured in rows.golden (the runs are RowRuns.h's). After a change that is meant to
+// alter what rows print, rewrite that listing and read its diff:
 //     DUMPBREL_UPDATE_GOLDEN=1 build/tests/e2e_tests --gtest_filter='Rows.*'
 
 #include <algorithm>
 #include <fstream>
-#include <map>
-#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "Fixtures.h"
-#include "fuzz/Registry.h"
+#include "RowRuns.h"
 
 namespace dumpbrel_test {
 namespace {
-
-using dumpbrel_fuzz::Module;
-using dumpbrel_fuzz::Row;
-
-const std::vector<Module>& registry() {
-    static const std::vector<Module> modules = dumpbrel_fuzz::walkRegistry();
-    return modules;
-}
-
-// What a sub-service prints with no option: its option list.
-const std::string& optionList(const std::string& module) {
-    static std::map<std::string, std::string> lists;
-    auto found = lists.find(module);
-    if (found == lists.end()) found = lists.emplace(module, runEntry({module}).out).first;
-    return found->second;
-}
-
-// The words that reach a row by its long name, with `value` where it takes one.
-std::vector<std::string> rowWords(const Row& row, const std::string& value) {
-    if (row.hasArg == 0) return {"--" + row.longName};
-    if (row.hasArg == 2) return {"--" + row.longName + "=" + value};
-    return {"--" + row.longName, value};
-}
-
-std::string argumentSuffix(int hasArg) {
-    return hasArg == 1 ? "=<arg>" : hasArg == 2 ? "[=<arg>]" : "";
-}
-
-// Every row reached by its long name, run twice: with "1,2,3,4" (where it takes an argument) on
-// the built-in panel, and with "abc" on a neutral one.
-struct RowRun {
-    const Module& module;
-    const Row& row;
-    Result plain, abc;
-};
-
-Result runRow(const Module& module, const Row& row, const std::string& value,
-              std::optional<std::string> panel) {
-    Start start;
-    start.args = rowWords(row, value);
-    start.args.insert(start.args.begin(), module.name);
-    start.panel = panel;
-    return runEntry(start);
-}
-
-const std::vector<RowRun>& rowRuns() {
-    static const std::vector<RowRun> runs = [] {
-        std::vector<RowRun> all;
-        for (const Module& module : registry())
-            for (const Row& row : module.rows)
-                all.push_back({module, row, runRow(module, row, "1,2,3,4", std::nullopt),
-                               runRow(module, row, "abc", "{}")});
-        return all;
-    }();
-    return runs;
-}
 
 // A text on one line: backslash, tab and newline escaped.
 std::string escaped(const std::string& text) {
@@ -96,17 +37,9 @@ TEST(Rows, PrintWhatTheGoldenListingHolds) {
     for (std::string line; std::getline(in, line);) golden.push_back(line);
 
     for (const RowRun& run : rowRuns()) {
-        const std::string& name = run.module.name;
-        if (&run.row == &run.module.rows.front()) actual.push_back(name);
-        const std::string& list = optionList(name);
-        std::string out = run.plain.out, calls = run.plain.calls, own = "I" + name + ".";
-        for (size_t at; !list.empty() && (at = out.find(list)) != std::string::npos;)
-            out.replace(at, list.size(), "@options\n");
-        for (size_t at; (at = calls.find(own)) != std::string::npos;) calls.erase(at, own.size());
-        for (size_t at; (at = calls.find(" -> ")) != std::string::npos;)
-            calls.erase(at, calls.find('\n', at) - at);
-        actual.push_back("--" + run.row.longName + "\t" + escaped(out) + "\t" +
-                         escaped(run.plain.err) + "\t" + escaped(calls) + "\t" +
+        if (&run.row == &run.module.rows.front()) actual.push_back(run.module.name);
+        actual.push_back("--" + run.row.longName + "\t" + escaped(run.out) + "\t" +
+                         escaped(run.plain.err) + "\t" + escaped(run.calls) + "\t" +
                          escaped(run.abc.err));
     }
     if (getenv("DUMPBREL_UPDATE_GOLDEN")) {

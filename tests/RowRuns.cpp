@@ -1,0 +1,64 @@
+#include "RowRuns.h"
+
+#include <map>
+
+namespace dumpbrel_test {
+
+const std::vector<Module>& registry() {
+    static const std::vector<Module> modules = dumpbrel_fuzz::walkRegistry();
+    return modules;
+}
+
+const std::string& optionList(const std::string& module) {
+    static std::map<std::string, std::string> lists;
+    auto found = lists.find(module);
+    if (found == lists.end()) found = lists.emplace(module, runEntry({module}).out).first;
+    return found->second;
+}
+
+std::vector<std::string> rowWords(const Row& row, const std::string& value) {
+    if (row.hasArg == 0) return {"--" + row.longName};
+    if (row.hasArg == 2) return {"--" + row.longName + "=" + value};
+    return {"--" + row.longName, value};
+}
+
+namespace {
+
+Result runRow(const Module& module, const Row& row, const std::string& value,
+              std::optional<std::string> panel) {
+    Start start;
+    start.args = rowWords(row, value);
+    start.args.insert(start.args.begin(), module.name);
+    start.panel = panel;
+    return runEntry(start);
+}
+
+void replaceAll(std::string& text, const std::string& what, const std::string& with) {
+    for (size_t at = 0; !what.empty() && (at = text.find(what, at)) != std::string::npos;
+         at += with.size())
+        text.replace(at, what.size(), with);
+}
+
+}  // namespace
+
+const std::vector<RowRun>& rowRuns() {
+    static const std::vector<RowRun> runs = [] {
+        std::vector<RowRun> all;
+        for (const Module& module : registry())
+            for (const Row& row : module.rows) {
+                RowRun run{module, row, runRow(module, row, kSampleArgument, std::nullopt),
+                           runRow(module, row, "abc", "{}"), {}, {}};
+                run.out = run.plain.out;
+                replaceAll(run.out, optionList(module.name), "@options\n");
+                run.calls = run.plain.calls;
+                replaceAll(run.calls, "I" + module.name + ".", "");
+                for (size_t at; (at = run.calls.find(" -> ")) != std::string::npos;)
+                    run.calls.erase(at, run.calls.find('\n', at) - at);
+                all.push_back(std::move(run));
+            }
+        return all;
+    }();
+    return runs;
+}
+
+}  // namespace dumpbrel_test

@@ -1,0 +1,45 @@
+#pragma once
+
+// Every row of the registry run by its long name through the binary's entry: the one walk from
+// which both the listing of what rows print (tests/e2e/rows.golden) and the reference of every
+// option (docs/options.md) are written.
+
+#include <string>
+#include <vector>
+
+#include "Fixtures.h"
+#include "fuzz/Registry.h"
+
+namespace dumpbrel_test {
+
+using dumpbrel_fuzz::Module;
+using dumpbrel_fuzz::Row;
+
+const std::vector<Module>& registry();
+
+// What a sub-service prints with no option: its option list.
+const std::string& optionList(const std::string& module);
+
+// The words that reach a row by its long name, with `value` where it takes one.
+std::vector<std::string> rowWords(const Row& row, const std::string& value);
+
+// How the option list writes a row's argument: "=<arg>", "[=<arg>]" or nothing.
+inline std::string argumentSuffix(int hasArg) {
+    return hasArg == 1 ? "=<arg>" : hasArg == 2 ? "[=<arg>]" : "";
+}
+
+// The argument a row is run with where it takes one.
+inline const char* const kSampleArgument = "1,2,3,4";
+
+// A row run twice: with kSampleArgument on the built-in panel, and with "abc" on a neutral one.
+struct RowRun {
+    const Module& module;
+    const Row& row;
+    Result plain, abc;
+    std::string out;    // plain.out with the sub-service's option list written "@options\n"
+    std::string calls;  // plain.calls without the answers, and without the interface's name
+                        // where it is the sub-service's own (I<sub-service>)
+};
+const std::vector<RowRun>& rowRuns();
+
+}  // namespace dumpbrel_test
