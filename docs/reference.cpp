@@ -3,7 +3,9 @@
 // tests compare with their listing). Rewrite the reference after a change to any table:
 //     cmake --build build --target options_reference && build/docs/options_reference > docs/options.md
 
+#include <algorithm>
 #include <cstdio>
+#include <map>
 #include <set>
 #include <string>
 
@@ -20,8 +22,8 @@ constexpr const char* kHead = R"(# Every option
 Generated from the tables the tool is built from; do not edit. Each sub-service's options are
 listed in the order of its option list (`dumpbrel <sub-service> -h`), one line each: the long
 option and its argument, the short letter as the option list shows it and what typing that letter
-really does, what the option calls on the service, and what it printed on the simulated panel's
-built-in profile, given `%s` where it takes an argument. "the option list" stands for the
+really does (learnt by typing it), what the option calls on the service, and what it printed on
+the simulated panel's built-in profile, given `%s` where it takes an argument. "the option list" stands for the
 sub-service's option list, printed after a refusal or by `-h`.
 
 **Reading the letters.** Where several options are listed with the same letter, typing that letter
@@ -58,42 +60,72 @@ std::string cell(const std::string& text) {
     return result;
 }
 
-std::string shortSpecs(const Module& module) {
+// What typing a letter does, learnt by typing it: `-<letter> 1,2,3,4` with every interface absent,
+// so that the row it runs names itself on standard error and calls nothing; an argument it does
+// not take is left over, and said so. The help row, which stops at once, says nothing of its
+// argument: the rule of its letter decides that.
+// What follows the letter's first place in the short specs: ":" an argument, "::" one that must be
+// attached to the letter, "" none.
+std::string colonsAfter(const Module& module, char letter) {
     std::string joined;
     for (const Row& row : module.rows) joined += row.shortSpec;
-    return joined;
+    size_t first = joined.find(letter);
+    size_t colons = first == std::string::npos ? 0 : joined.find_first_not_of(':', first + 1);
+    colons = (colons == std::string::npos ? joined.size() : colons) - first - 1;
+    return std::string(std::min<size_t>(colons, 2), ':');
 }
 
-// The last row whose short form begins with `letter`, or null.
-const Row* rowOfLetter(const Module& module, char letter) {
-    const Row* found = nullptr;
-    for (const Row& row : module.rows)
-        if (!row.shortSpec.empty() && row.shortSpec[0] == letter) found = &row;
-    return found;
+struct Typed {
+    std::string runs;  // the long name of the row run; empty: none
+    bool argument = false;
+};
+
+Typed typed(const Module& module, char letter) {
+    static std::map<std::pair<std::string, char>, Typed> seen;
+    auto found = seen.find({module.name, letter});
+    if (found != seen.end()) return found->second;
+    dumpbrel_test::Start start;
+    start.args = {module.name, std::string("-") + letter, dumpbrel_test::kSampleArgument};
+    start.env["BREL_SIM_ABSENT"] = "all";
+    dumpbrel_test::Result run = dumpbrel_test::runEntry(start);
+    Typed result;
+    const std::string named = module.name + " --", absent = ": service interface not available";
+    size_t at = run.err.find(named);
+    if (at != std::string::npos && run.err.find(absent, at) != std::string::npos) {
+        at += named.size();
+        result.runs = run.err.substr(at, run.err.find(absent, at) - at);
+        result.argument = run.out.find(std::string("unknown option: ") +
+                                       dumpbrel_test::kSampleArgument) == std::string::npos;
+    } else if (run.out.rfind("unknown option: ", 0) != 0) {
+        result.runs = "help";
+        result.argument = colonsAfter(module, letter) == ":";
+    }
+    return seen[{module.name, letter}] = result;
 }
 
 // What typing the row's letter does, and what its spec's further letters reach.
 std::string letterRule(const Module& module, const Row& row) {
     if (row.shortSpec.empty()) return "no letter";
-    const std::string joined = shortSpecs(module);
     const char letter = row.shortSpec[0];
-    const Row* runs = rowOfLetter(module, letter);
-    const size_t first = joined.find(letter);
-    const bool argument = first + 1 < joined.size() && joined[first + 1] == ':';
+    const Typed mine = typed(module, letter);
     std::string rule = "`-" + std::string(1, letter) + "` runs " +
-                       (runs == &row ? std::string("this option") : "`--" + runs->longName + "`") +
-                       (argument ? ", with an argument" : ", without an argument");
+                       (mine.runs == row.longName ? std::string("this option")
+                                                  : "`--" + mine.runs + "`") +
+                       (mine.argument                         ? ", with an argument"
+                        : colonsAfter(module, letter) == "::" ? ", with an argument only when attached (`-" +
+                                                             std::string(1, letter) + "TEXT`)"
+                                                       : ", without an argument");
     std::string unreached, elsewhere;
     int unreachedCount = 0;
     std::set<char> seen = {letter, ':'};
     for (char other : row.shortSpec.substr(1)) {
         if (!seen.insert(other).second) continue;
-        const Row* reached = rowOfLetter(module, other);
+        const Typed reached = typed(module, other);
         std::string name = "`-" + std::string(1, other) + "`";
-        if (reached == nullptr)
+        if (reached.runs.empty())
             unreached += (unreachedCount++ ? ", " : "") + name;
         else
-            elsewhere += "; " + name + " runs `--" + reached->longName + "`";
+            elsewhere += "; " + name + " runs `--" + reached.runs + "`";
     }
     if (!unreached.empty())
         rule += "; " + unreached + (unreachedCount > 1 ? " reach" : " reaches") + " no option";
