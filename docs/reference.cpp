@@ -23,8 +23,8 @@ Generated from the tables the tool is built from; do not edit. Each sub-service'
 listed in the order of its option list (`dumpbrel <sub-service> -h`), one line each: the long
 option and its argument, the short letter as the option list shows it and what typing that letter
 really does (learnt by typing it), what the option calls on the service, and what it printed on
-the simulated panel's built-in profile, given `%s` where it takes an argument. "the option list" stands for the
-sub-service's option list, printed after a refusal or by `-h`.
+the simulated panel's built-in profile, given `%s` where it takes an argument. "the option
+list" stands for the sub-service's option list, printed after a refusal or by `-h`.
 
 **Reading the letters.** Where several options are listed with the same letter, typing that letter
 runs the last of them in the list. Whether a letter takes an argument is decided by the first place
