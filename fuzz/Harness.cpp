@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 
 #include "framework/DumpBrel.h"
@@ -21,7 +22,7 @@ namespace dumpbrel_fuzz {
 namespace {
 
 int gReportFd = 2;
-std::string gNeutralProfile;
+std::string gScratch, gNeutralProfile;
 
 }  // namespace
 
@@ -45,15 +46,22 @@ void setUp() {
         if (null != 0) close(null);
     }
 
-    char path[] = "/tmp/dumpbrel-fuzz-neutral-XXXXXX";
-    int profile = mkstemp(path);
-    if (profile < 0 || write(profile, "{}\n", 3) != 3) {
+    // Its own scratch directory: the neutral profile and the property store, nothing of the
+    // user's environment.
+    char dir[] = "/tmp/dumpbrel-fuzz-XXXXXX";
+    gScratch = mkdtemp(dir) ? dir : "";
+    gNeutralProfile = gScratch + "/neutral.json";
+    int profile = open(gNeutralProfile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (gScratch.empty() || profile < 0 || write(profile, "{}\n", 3) != 3) {
         report("dumpbrel fuzz: cannot write a neutral profile in /tmp");
         abort();
     }
     close(profile);
-    gNeutralProfile = path;
-    atexit([] { unlink(gNeutralProfile.c_str()); });
+    dumpbrel_test::clearBrelEnvironment(gScratch + "/properties");
+    atexit([] {
+        std::error_code ignored;
+        std::filesystem::remove_all(gScratch, ignored);
+    });
 }
 
 void useProfile(Profile profile) {

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "Registry.h"
+#include "tests/RunAs.h"
 
 namespace fs = std::filesystem;
 
@@ -132,7 +133,7 @@ int main(int argc, char** argv) {
         fprintf(stderr, "usage: %s <corpus-dir>\n", argv[0]);
         return 2;
     }
-    for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);
+    dumpbrel_test::clearBrelEnvironment();
     std::vector<dumpbrel_fuzz::Module> modules = dumpbrel_fuzz::walkRegistry();
 
     fs::path dir = argv[1];

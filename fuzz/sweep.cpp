@@ -29,6 +29,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <deque>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -379,6 +380,7 @@ int Sweep::run() {
         return 2;
     }
     mDir = dir;
+    setenv("BREL_PROPERTY_DIR", (mDir + "/properties").c_str(), 1);
     std::string neutral = mDir + "/neutral.json";
     std::ofstream(neutral) << "{}\n";
     mPanels = {{"neutral", neutral, nullptr}, {"built-in", "", nullptr}, {"absent", "", "all"}};
@@ -451,8 +453,8 @@ int Sweep::run() {
     }
     double seconds = std::chrono::duration<double>(Clock::now() - began).count();
 
-    unlink(neutral.c_str());
-    rmdir(mDir.c_str());
+    std::error_code ignored;
+    std::filesystem::remove_all(mDir, ignored);
     for (const auto& line : mLines) {
         const auto& seen = mLineRuns[line];
         printf("%6zu runs, first %s: %s\n", seen.first, seen.second.c_str(),
@@ -490,7 +492,7 @@ int main(int argc, char** argv) {
         printf("sweep: skipped: not root, and no user namespaces\n");
         return 77;
     }
-    for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);
+    dumpbrel_test::clearBrelEnvironment();
     std::vector<Module> modules = dumpbrel_fuzz::walkRegistry();
     if (!only.empty()) {
         std::vector<Module> chosen;

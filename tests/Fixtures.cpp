@@ -20,6 +20,10 @@ namespace dumpbrel_test {
 
 namespace {
 
+// Whatever the user exported, the programs of the tests start from no BREL_* variable at all;
+// a child sets what its run needs (execBinary's callers, BREL_SIM_STATE).
+const bool gCleared = (clearBrelEnvironment(), true);
+
 std::string readFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     std::ostringstream text;
@@ -73,9 +77,8 @@ Result runChild(const Start& start, Run body) {
     fflush(nullptr);  // nothing of this process's buffers may reach the child's output
     pid_t pid = fork();
     if (pid == 0) {
-        for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT"}) unsetenv(name);
+        clearBrelEnvironment(dir + "/properties");
         setenv("BREL_SIM_TRACE", trace.c_str(), 1);
-        setenv("BREL_PROPERTY_DIR", (dir + "/properties").c_str(), 1);
         if (start.panel) setenv("BREL_SIM_PANEL", panel.c_str(), 1);
         for (const auto& [name, value] : start.env) setenv(name.c_str(), value.c_str(), 1);
         redirect(0, input, O_RDONLY);
@@ -117,7 +120,6 @@ Result runEntry(const Start& start) {
 
 void execBinary(const std::vector<std::string>& args) {
     if (!runAsToolUser()) _exit(126);
-    for (const char* name : {"BREL_SIM_PANEL", "BREL_SIM_ABSENT", "BREL_SIM_TRACE"}) unsetenv(name);
     execWords(commandLine(args));
 }
 

@@ -9,7 +9,11 @@
 #include <sched.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <string>
+#include <vector>
+
+extern char** environ;
 
 namespace dumpbrel_test {
 
@@ -31,6 +35,17 @@ inline bool runAs(uid_t uid) {
     return unshare(CLONE_NEWUSER) == 0 && put("/proc/self/setgroups", "deny") &&
            put("/proc/self/uid_map", std::to_string(uid) + " " + std::to_string(outerUid) + " 1") &&
            put("/proc/self/gid_map", std::to_string(uid) + " " + std::to_string(outerGid) + " 1");
+}
+
+// Every BREL_* variable removed from this process's environment: what the tests start sees none
+// of the user's own (a profile, a memory, a trace, a recording, a property store), only what
+// the runner sets, each in its own scratch directory; `properties` becomes the property store.
+inline void clearBrelEnvironment(const std::string& properties = "") {
+    std::vector<std::string> names;
+    for (char** each = environ; *each; ++each)
+        if (strncmp(*each, "BREL_", 5) == 0) names.emplace_back(*each, strcspn(*each, "="));
+    for (const std::string& name : names) unsetenv(name.c_str());
+    if (!properties.empty()) setenv("BREL_PROPERTY_DIR", properties.c_str(), 1);
 }
 
 // runAs(0) unless this process may already run the tool.

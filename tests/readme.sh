@@ -2,6 +2,8 @@
 # Each README block starting with "$ " runs in one bash in a scratch directory, dumpbrel being
 # this build: its commands must print (stderr joined) the lines under them.
 readme=$1 bin=$(realpath "$2")
+# None of the user's own BREL_* settings reaches the examples: they run as in a fresh shell.
+unset "${!BREL_@}"
 shift 2
 emu=("$@") ns=()
 [ "$(id -u)" = 0 ] || ns=(unshare --user --map-root-user)
