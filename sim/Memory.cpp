@@ -38,9 +38,32 @@ bool writeAll(int fd, const std::string& text) {
     return true;
 }
 
-// `root` written whole to "<path>.new", which then replaces the file; false, with errno set,
-// when it cannot be. A file that was there keeps its permissions.
-bool replace(const std::string& path, const Json& root) {
+// The file a store writes: a symbolic link is followed to what it names, so it stays a link.
+std::string throughLinks(std::string path) {
+    char target[4096];
+    for (int hops = 0; hops < 40; ++hops) {
+        ssize_t n = readlink(path.c_str(), target, sizeof target);
+        if (n <= 0 || static_cast<size_t>(n) == sizeof target) break;
+        std::string next(target, static_cast<size_t>(n));
+        size_t slash = path.rfind('/');
+        if (next[0] != '/' && slash != std::string::npos) next = path.substr(0, slash + 1) + next;
+        path = std::move(next);
+    }
+    return path;
+}
+
+// Whether two names are one file.
+bool sameFile(const char* a, const char* b) {
+    struct stat first, second;
+    if (stat(a, &first) == 0 && stat(b, &second) == 0)
+        return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    return strcmp(a, b) == 0;
+}
+
+// `root` written whole to "<file>.new" beside the file the path names, which it then replaces;
+// false, with errno set, when it cannot be. A file that was there keeps its permissions.
+bool replace(const std::string& link, const Json& root) {
+    std::string path = throughLinks(link);
     std::string fresh = path + ".new";
     std::string text = root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
     struct stat old;
@@ -58,6 +81,21 @@ bool replace(const std::string& path, const Json& root) {
     return false;
 }
 
+// Whether a store may replace the file that holds `root`: not when it could not be used, nor
+// when a member is no object of operations. That is the user's text, which a store would lose;
+// it is named, and the rest of the file is read.
+bool writable(const std::string& path, const Json& root) {
+    bool whole = root.is_object();
+    if (whole)
+        for (const auto& member : root.items()) {
+            if (member.value().is_object()) continue;
+            whole = false;
+            say(path + ": " + member.key() + ": expected an object of operations, got " +
+                member.value().type_name());
+        }
+    return whole;
+}
+
 }  // namespace
 
 const Json* recalled() {
@@ -66,7 +104,14 @@ const Json* recalled() {
     Memory& state = memory();
     if (state.path != path) {
         state.path = path;
-        state.root = readProfile(path, true);
+        const char* profile = getenv("BREL_SIM_PANEL");
+        if (profile && *profile && sameFile(path, profile)) {
+            say(state.path + ": named by both BREL_SIM_STATE and BREL_SIM_PANEL: no memory this run");
+            state.root = nullptr;
+        } else {
+            state.root = readProfile(path, true);
+            writable(state.path, state.root);
+        }
     }
     blame(state.path);
     return state.root.is_null() ? nullptr : &state.root;
@@ -100,10 +145,8 @@ void Panel::remember(const char* iface, const char* op, const std::string& line,
     }
     if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
     Json root = readProfile(state.path.c_str(), true, false);  // its names were checked
-    if (!root.is_null()) {
-        Json& panel = root[iface];
-        if (!panel.is_object()) panel = Json::object();
-        panel[key] = std::move(value);
+    if (writable(state.path, root)) {
+        root[iface][key] = value;
         if (!replace(state.path, root)) say(state.path + ": cannot store: " + strerror(errno));
     }
     state.root = std::move(root);  // what the file holds now, others' stores included

@@ -360,7 +360,10 @@ protected:
             if (!memory || !reader.failed) break;
             result = {};
         }
-        if (last) Panel::remember(mName, op, line, last);
+        // A negative integer answer is an error code: the panel refused the value.
+        bool refused = false;
+        if constexpr (std::is_integral_v<R> && std::is_signed_v<R>) refused = result < 0;
+        if (last && !refused) Panel::remember(mName, op, line, last);
         if constexpr (std::is_void_v<R>) {
             Panel::trace(line);
         } else {

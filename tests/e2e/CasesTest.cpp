@@ -9,8 +9,8 @@
 //            its newline) or one string of exact bytes; absent: nothing at all, null: not checked.
 //            The line "@options" stands for the option list of the sub-service args[0], "@usage"
 //            for the usage, both as the binary prints them. In "err", "@panel" stands for the
-//            profile's file, "@state" the memory's, "@letter x" the C library's line on the
-//            letter x.
+//            profile's file, "@state" the memory's (in "env" too), "@letter x" the C library's
+//            line on the letter x.
 //   "status" exit status (absent: 0)
 //   "state"  the memory's file (BREL_SIM_STATE) before the run; null: none
 //   "file"   its exact text after the run     "next"  a case run next on the same memory
@@ -88,6 +88,8 @@ void check(const Json& row, const std::string& state) {
         start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()
                                                : row["panel"].dump();
     start.env = row.value("env", std::map<std::string, std::string>());
+    for (auto& [name, value] : start.env)
+        if (value == "@state") value = state;
     if (!state.empty()) start.env["BREL_SIM_STATE"] = state;
     if (row.contains("state") && !row["state"].is_null())
         std::ofstream(state) << row["state"].get<std::string>();
@@ -167,6 +169,17 @@ TEST_F(Memory, AKilledRunLeavesAWholeFile) {
         waitpid(pid, nullptr, 0);
         EXPECT_GE(stored().size(), 25u);
     }
+}
+
+TEST_F(Memory, ALinkStaysALinkAndAKilledStoreLeavesNothing) {
+    std::string target = state + ".target";
+    std::ofstream(target) << "{}";
+    std::ofstream(target + ".new") << "{\"half";  // what a store killed before its rename leaves
+    ASSERT_EQ(symlink("state.json.target", state.c_str()), 0);
+    ASSERT_EQ(runBinary(stores(0)).status, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(state));
+    EXPECT_EQ(stored().size(), 25u);
+    EXPECT_FALSE(std::filesystem::exists(target + ".new"));
 }
 
 }  // namespace
