@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Each README block starting with "$ " runs in one bash in a scratch directory, dumpbrel being
-# this build: its commands must print (stderr joined) the lines under them.
+# Each README block starting with "$ " runs in one bash in a scratch directory, dumpbrel and
+# build/tests/log_probe ($LOG_PROBE) being this build's: its commands must print (stderr joined)
+# the lines under them.
 readme=$1 bin=$(realpath "$2")
 # None of the user's own BREL_* settings reaches the examples: they run as in a fresh shell.
 unset "${!BREL_@}"
@@ -16,7 +17,9 @@ awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
   { l = $0 }' "$readme"
 n=0 f=0
 for b in $(ls "$d" | sort -n); do
-    mkdir "$d/run" && cd "$d/run" && grep '^\$ ' "../$b" | while IFS= read -r line; do
+    mkdir -p "$d/run/build/tests" && cd "$d/run" &&
+        printf '#!/bin/sh\nexec %s "$@"\n' "${emu[*]} $(realpath "$LOG_PROBE")" >build/tests/log_probe &&
+        chmod +x build/tests/log_probe && grep '^\$ ' "../$b" | while IFS= read -r line; do
         echo "$line"
         eval "${line:2}" </dev/null 2>&1
     done >../got

@@ -81,8 +81,10 @@ void check(const Json& row, const std::string& state) {
     Start start;
     start.uid = row.value("uid", -1);
     if (start.uid >= 0 && !canRunAs(start.uid))
-        GTEST_SKIP() << "cannot run as uid " << start.uid
-                     << " here: not root, and no user namespace to enter";
+        GTEST_SKIP() << "cannot run as uid " << start.uid << " here: "
+                     << (getuid() == 0 ? "root of a user namespace that maps no other uid, and no new"
+                                       : "not root, and no")
+                     << " user namespace to enter";
     start.args = row.value("args", std::vector<std::string>());
     if (row.contains("panel"))
         start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()
