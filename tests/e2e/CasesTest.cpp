@@ -153,10 +153,15 @@ TEST_F(Memory, EightRunsAtOnceLoseNoStore) {
     EXPECT_EQ(stored().size(), 200u);
 }
 
+// Through a link that stays one, and what a store killed before its rename left goes.
 TEST_F(Memory, AKilledRunLeavesAWholeFile) {
     using namespace std::chrono;
+    std::ofstream(state + ".t") << "{}";
+    std::ofstream(state + ".t.new") << "{\"half";
+    ASSERT_EQ(symlink("state.json.t", state.c_str()), 0);
     auto begin = steady_clock::now();
     ASSERT_EQ(runBinary(stores(0)).status, 0);
+    EXPECT_FALSE(std::filesystem::exists(state + ".t.new"));
     std::uniform_int_distribution<long> moment(0, (steady_clock::now() - begin) / microseconds(1));
     std::mt19937 random(std::random_device{}());
     for (int kill = 1; kill <= 25; ++kill) {
@@ -171,17 +176,7 @@ TEST_F(Memory, AKilledRunLeavesAWholeFile) {
         waitpid(pid, nullptr, 0);
         EXPECT_GE(stored().size(), 25u);
     }
-}
-
-TEST_F(Memory, ALinkStaysALinkAndAKilledStoreLeavesNothing) {
-    std::string target = state + ".target";
-    std::ofstream(target) << "{}";
-    std::ofstream(target + ".new") << "{\"half";  // what a store killed before its rename leaves
-    ASSERT_EQ(symlink("state.json.target", state.c_str()), 0);
-    ASSERT_EQ(runBinary(stores(0)).status, 0);
     EXPECT_TRUE(std::filesystem::is_symlink(state));
-    EXPECT_EQ(stored().size(), 25u);
-    EXPECT_FALSE(std::filesystem::exists(target + ".new"));
 }
 
 }  // namespace

@@ -83,13 +83,6 @@ protected:
         int length = property_get(key, value, fallback);
         return string(value) + "|" + std::to_string(length);
     }
-    // What the probe prints, a process of its own running `words` in order.
-    static string probe(const string& words) {
-        string out, command = DUMPBREL_EMULATOR " " LOG_PROBE " " + words;
-        FILE* pipe = popen(command.c_str(), "r");
-        for (int c; pipe && (c = fgetc(pipe)) != EOF;) out += static_cast<char>(c);
-        return pipe && pclose(pipe) == 0 ? out : out + "[failed]";
-    }
 
     fs::path mRoot, mDir;
 };
@@ -97,12 +90,6 @@ protected:
 TEST_F(LogTest, KeyIsZeroFilledTo32Bytes) {
     static_assert(sizeof PROP_BREL_SER_LOG_LEVEL == 32);
     EXPECT_EQ(memcmp(PROP_BREL_SER_LOG_LEVEL, kKey, sizeof kKey), 0);
-}
-
-// A later process starts at 5 5 and finds the stored level on Brel_Log_Init; the probe is C.
-TEST_F(LogTest, LevelPersistsAcrossProcessesAndWorksFromC) {
-    EXPECT_EQ(probe("set 3"), "0\n");
-    EXPECT_EQ(probe("levels init log 2 log 3"), "5 5\n5 3\n-1\n0\n");
 }
 
 TEST_F(LogTest, FilterPriorityAndFormatByLevel) {

@@ -1,8 +1,6 @@
-/* A fresh process for the log facility's tests, written in C to keep the header usable from C.
+/* A program that reads the log level, written in C to keep the header usable from C.
  * Runs its words in order and prints one line for each:
- *   levels   the build and the current level
- *   init     Brel_Log_Init(), then the levels
- *   set N    setLogLevel(N) and its result
+ *   init     Brel_Log_Init(), then the build and the current level
  *   log N    BrelLog(N, ...) and its result */
 #include <stdio.h>
 #include <stdlib.h>
@@ -12,13 +10,9 @@
 
 int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
-        if (strcmp(argv[i], "levels") == 0) {
-            printf("%d %d\n", getLogLevel(BRLE_LOG_LEVEL_BUILD), getLogLevel(BRLE_LOG_LEVEL_CURRENT));
-        } else if (strcmp(argv[i], "init") == 0) {
+        if (strcmp(argv[i], "init") == 0) {
             Brel_Log_Init();
             printf("%d %d\n", getLogLevel(BRLE_LOG_LEVEL_BUILD), getLogLevel(BRLE_LOG_LEVEL_CURRENT));
-        } else if (strcmp(argv[i], "set") == 0 && i + 1 < argc) {
-            printf("%d\n", setLogLevel((uint32_t)strtoul(argv[++i], NULL, 10)));
         } else if (strcmp(argv[i], "log") == 0 && i + 1 < argc) {
             uint32_t level = (uint32_t)strtoul(argv[++i], NULL, 10);
             printf("%d\n", BrelLog(level, "probe", __FILE__, __LINE__, "from %s", "C"));
