@@ -1,8 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IAvManagerCtrl.h"
-
-SIM_RECORD(android::AvSignalFormat, width, height, refresh, interlaced, ycbcr, fullrange,
-           subsampling, colorspace, depth, hdr, audio, channels, fidelity, samples, drm, dsc);
 
 namespace {
 

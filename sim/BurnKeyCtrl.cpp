@@ -1,8 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IBurnKeyCtrl.h"
-
-SIM_RECORD(android::EntitySwKey, KeyType, CurrentValue, CurrentVersion, IsSupportUsbBurn,
-           UsbBurnKeyBinName, NeedRebootWhenBurned);
 
 namespace {
 

@@ -1,8 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IBurnMacCtrl.h"
-
-SIM_RECORD(android::EntitySwMac, KeyType, CurrentVersion, IsSupportUsbBurn, UsbBurnKeyBinName,
-           NeedRebootWhenBurned);
 
 namespace {
 

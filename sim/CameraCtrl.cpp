@@ -1,7 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/ICameraCtrl.h"
-
-SIM_RECORD(android::BrelCameraInfo, info_text, value_a, value_b);
 
 namespace {
 

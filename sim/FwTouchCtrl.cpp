@@ -1,11 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IFwTouchCtrl.h"
-
-SIM_RECORD(android::EntityFwTouch, touchModel, touchType, fwTouchType, touchCurrentVersion,
-           isSupportUsbUpgrade, usbUpgradeTouchBinName, isSupportOtaUpgrade,
-           otaUpgradeTouchBinPath, otaTouchBasicBinVersion, otaTouchKey, needRebootWhenUpgraded);
-SIM_RECORD(android::EntityFwTouchDriver, touchModel, touchType, swTouchDriverType,
-           touchDriverCurrentVersion, isSupportUsbUpgrade, usbUpgradeTouchDriverBinName);
 
 namespace {
 

@@ -1,9 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IFwUpgrade.h"
-
-SIM_RECORD(android::EntityFwInfoMcu, mcuType, fwMcuType, mcuCurrentVersion, isSupportUsbUpgrade,
-           usbUpgradeMcuBinName, isSupportOtaUpgrade, otaUpgradeMcuBinPath, otaMcuBasicBinVersion,
-           otaMcuKey, needRebootWhenUpgraded);
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <string_view>
 
+#include "Files.h"
 #include "Profiles.h"
 
 namespace sim {
@@ -29,56 +30,12 @@ Memory& memory() {
     return state;
 }
 
-bool writeAll(int fd, const std::string& text) {
-    for (size_t done = 0; done < text.size();) {
-        ssize_t n = ::write(fd, text.data() + done, text.size() - done);
-        if (n < 0 && errno != EINTR) return false;
-        if (n > 0) done += static_cast<size_t>(n);
-    }
-    return true;
-}
-
-// The file a store writes: a symbolic link is followed to what it names, so it stays a link.
-std::string throughLinks(std::string path) {
-    char target[4096];
-    for (int hops = 0; hops < 40; ++hops) {
-        ssize_t n = readlink(path.c_str(), target, sizeof target);
-        if (n <= 0 || static_cast<size_t>(n) == sizeof target) break;
-        std::string next(target, static_cast<size_t>(n));
-        size_t slash = path.rfind('/');
-        if (next[0] != '/' && slash != std::string::npos) next = path.substr(0, slash + 1) + next;
-        path = std::move(next);
-    }
-    return path;
-}
-
 // Whether two names are one file.
 bool sameFile(const char* a, const char* b) {
     struct stat first, second;
     if (stat(a, &first) == 0 && stat(b, &second) == 0)
         return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
     return strcmp(a, b) == 0;
-}
-
-// `root` written whole to "<file>.new" beside the file the path names, which it then replaces;
-// false, with errno set, when it cannot be. A file that was there keeps its permissions.
-bool replace(const std::string& link, const Json& root) {
-    std::string path = throughLinks(link);
-    std::string fresh = path + ".new";
-    std::string text = root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
-    struct stat old;
-    bool existed = stat(path.c_str(), &old) == 0;
-    int fd = open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (fd < 0) return false;
-    bool written = (!existed || fchmod(fd, old.st_mode & 07777) == 0) && writeAll(fd, text) &&
-                   fsync(fd) == 0;
-    int error = errno;
-    close(fd);
-    if (written && rename(fresh.c_str(), path.c_str()) == 0) return true;
-    if (written) error = errno;
-    unlink(fresh.c_str());
-    errno = error;
-    return false;
 }
 
 // Whether a store may replace the file that holds `root`: not when it could not be used, nor
@@ -136,18 +93,13 @@ void Panel::remember(const char* iface, const char* op, const std::string& line,
     if (value.is_discarded()) return;  // a float the trace writes as inf or nan
 
     Memory& state = memory();
-    int lock = ::open((state.path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-    while (lock >= 0 && flock(lock, LOCK_EX) != 0) {
-        if (errno != EINTR) {
-            close(lock);
-            lock = -1;
-        }
-    }
+    int lock = lockBeside(state.path);
     if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
     Json root = readProfile(state.path.c_str(), true, false);  // its names were checked
     if (writable(state.path, root)) {
         root[iface][key] = value;
-        if (!replace(state.path, root)) say(state.path + ": cannot store: " + strerror(errno));
+        if (!replaceFile(state.path, root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"))
+            say(state.path + ": cannot store: " + strerror(errno));
     }
     state.root = std::move(root);  // what the file holds now, others' stores included
     close(lock);

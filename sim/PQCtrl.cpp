@@ -1,7 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/IPQCtrl.h"
-
-SIM_RECORD(android::PresetColorTempRgb, r, g, b);
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <optional>
 #include <set>
 
+#include "Files.h"
 #include "Profiles.h"
 
 namespace sim {
@@ -185,19 +186,6 @@ void say(std::string line) {
 
 void blame(const std::string& source) { gProblemSource = source; }
 
-// The whole file into `text`; false, with errno set, when it cannot be read to its end.
-static bool readFile(const char* path, std::string& text) {
-    int fd = open(path, O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return false;
-    char buffer[4096];
-    ssize_t n;
-    while ((n = ::read(fd, buffer, sizeof buffer)) > 0) text.append(buffer, static_cast<size_t>(n));
-    int error = errno;
-    close(fd);
-    errno = error;
-    return n == 0;
-}
-
 Json readProfile(const char* path, bool memory, bool check) {
     std::string text;
     if (!readFile(path, text)) {
@@ -356,10 +344,6 @@ void Panel::reset() {
     gAbsentRead = false;
     forget();
     said().clear();
-}
-
-std::string jsonString(std::string_view text) {
-    return Json(std::string(text)).dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
 }  // namespace sim

@@ -1,7 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/ISoundScreenAngleCtrl.h"
-
-SIM_RECORD(android::SoundScreenAngle, start_angle, end_angle);
 
 namespace {
 

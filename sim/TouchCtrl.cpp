@@ -1,8 +1,6 @@
 #include "Panel.h"
+#include "Records.h"
 #include "service/ITouchCtrl.h"
-
-SIM_RECORD(android::TouchPoint, point_id, point_x, point_y);
-SIM_RECORD(android::TouchRect, rect_id, rect_p1, rect_p2);
 
 namespace {
 

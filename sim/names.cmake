@@ -18,7 +18,7 @@
 
 cmake_minimum_required(VERSION 3.18)
 
-file(GLOB sources "${SIM_DIR}/*.cpp")
+file(GLOB sources "${SIM_DIR}/*.cpp" "${SIM_DIR}/Records.h")
 list(SORT sources)
 
 # The code of a file made easy to match: comments out, blanks made one; ';' out and brackets
