@@ -80,4 +80,12 @@ bool replaceFile(const std::string& link, const std::string& text) {
     return false;
 }
 
+bool appendLine(const char* path, const std::string& line) {
+    int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    if (fd < 0) return false;
+    writeAll(fd, line + "\n");
+    close(fd);
+    return true;
+}
+
 }  // namespace sim

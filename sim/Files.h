@@ -19,4 +19,8 @@ int lockBeside(const std::string& path);
 // be. A file that was there keeps its permissions.
 bool replaceFile(const std::string& path, const std::string& text);
 
+// `line` and a newline appended to the file at `path`, made when missing, at once; false, with
+// errno set, when it cannot be opened.
+bool appendLine(const char* path, const std::string& line);
+
 }  // namespace sim

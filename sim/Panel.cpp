@@ -305,15 +305,7 @@ Node Panel::lookup(const char* iface, const char* op, const std::string& line,
 void Panel::trace(const std::string& line) {
     const char* path = envOrNull("BREL_SIM_TRACE");
     if (!path) return;
-    int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
-    if (fd < 0) {
-        say(std::string("trace ") + path + ": " + strerror(errno));
-        return;
-    }
-    std::string text = line + "\n";
-    ssize_t written = ::write(fd, text.data(), text.size());
-    (void)written;
-    close(fd);
+    if (!appendLine(path, line)) say(std::string("trace ") + path + ": " + strerror(errno));
 }
 
 bool Panel::absent(const char* word) {
