@@ -45,7 +45,7 @@ bool writable(const std::string& path, const Json& root) {
     bool whole = root.is_object();
     if (whole)
         for (const auto& member : root.items()) {
-            if (member.value().is_object()) continue;
+            if (member.value().is_object() || member.key() == "absent") continue;  // named, kept
             whole = false;
             say(path + ": " + member.key() + ": expected an object of operations, got " +
                 member.value().type_name());

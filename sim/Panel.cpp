@@ -36,6 +36,7 @@ std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by inte
 std::string gProblemSource = "built-in profile";
 const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
+std::map<std::string, size_t> gCalls;  // calls so far of each key answered in order
 
 // The problem lines written so far. Made when first needed: a run without problems neither
 // builds it nor registers its destructor.
@@ -88,15 +89,27 @@ std::optional<std::string_view> lineAfter(std::string_view names, const std::str
     return names.substr(at, names.find('\n', at) - at);
 }
 
+const char kEmptyOrder[] = "\"in order\" takes a list of one answer or more";
+
+// Whether `word` names something the panel can take away.
+bool absentWord(const std::string& word) {
+    return word == "manager" || word == "all" ||
+           std::string_view(kAccessors).find(" " + word + " ") != npos;
+}
+
 // Names each key of a profile that the service does not have, once, on its first reading; the
 // panel never asks for such a key, so it is otherwise ignored.
 class NameCheck {
 public:
-    explicit NameCheck(std::string file) : mFile(std::move(file)) {}
+    NameCheck(std::string file, bool memory) : mFile(std::move(file)), mMemory(memory) {}
 
     void profile(const Json& root) {
         for (const auto& panel : root.items()) {
             const std::string& iface = panel.key();
+            if (iface == "absent") {
+                absentWords(panel.value());
+                continue;
+            }
             size_t at = plain(iface) ? mNames.find("\n" + iface + "\n") : npos;
             if (at == npos) {
                 unknown(iface, "no such interface");
@@ -116,6 +129,15 @@ public:
 private:
     std::string_view mNames = kNames;
     std::string mFile;
+    bool mMemory;
+
+    void absentWords(const Json& words) {
+        if (mMemory) return unknown("absent", "means nothing in the memory");
+        if (!words.is_array()) return unknown("absent", "expected a list of words");
+        for (const Json& word : words)
+            if (!word.is_string() || !absentWord(word.get<std::string>()))
+                unknown("absent", (word.is_string() ? word.get<std::string>() : word.dump()) + ": neither manager, all nor an accessor of IBrelManager");
+    }
 
     void unknown(const std::string& key, const std::string& what) {
         say(mFile + ": " + key + ": " + what);
@@ -140,6 +162,19 @@ private:
                 return unknown(key, "takes " + takes + ", not " + std::to_string(list.size()));
         }
         shapes.erase(shapes.begin());
+        answer(key, shapes, value);
+    }
+
+    // An answer of the operation whose result and out-parameters have these shapes.
+    void answer(const std::string& key, const std::vector<std::string_view>& shapes,
+                const Json& value) {
+        if (value.is_object() && value.contains("in order")) {
+            const Json& list = value["in order"];
+            if (!list.is_array() || list.empty()) return unknown(key, kEmptyOrder);
+            for (size_t i = 0; i < list.size(); ++i)
+                answer(key + "[" + std::to_string(i) + "]", shapes, list[i]);
+            return;
+        }
         if (shapes.size() == 1) return holds(key, shapes[0], value);
         if (!value.is_object()) return;  // said when the operation is called
         for (const auto& member : value.items()) {
@@ -195,7 +230,7 @@ Json readProfile(const char* path, bool memory, bool check) {
     }
     if (memory && text.empty()) return Json::object();
     Source source = parse(path, text);
-    if (check && !source.root.is_null()) NameCheck(path).profile(source.root);
+    if (check && !source.root.is_null()) NameCheck(path, memory).profile(source.root);
     return source.root;
 }
 
@@ -299,7 +334,17 @@ Node Panel::lookup(const char* iface, const char* op, const std::string& line,
     Node found = panel.member(key.c_str());
     if (!found.exists()) found = panel.member((key = op).c_str());
     key = std::string(iface) + "." + key;
-    return found;
+    Node order = found.member("in order");
+    if (!order.exists()) return found;
+    // The n-th call of the key in this run takes the n-th answer; the calls after the last, the last.
+    size_t nth = gCalls[key]++;
+    if (order.size() == 0) {
+        problem(key, kEmptyOrder);
+        return Node();
+    }
+    nth = std::min(nth, order.size() - 1);
+    key += "[" + std::to_string(nth) + "]";
+    return order.at(nth);
 }
 
 void Panel::trace(const std::string& line) {
@@ -315,14 +360,17 @@ bool Panel::absent(const char* word) {
         // A word that names nothing the panel can take away gets its line.
         eachAbsent(gAbsent, [](std::string_view each) {
             std::string text(each);
-            if (text != "manager" && text != "all" &&
-                std::string_view(kAccessors).find(" " + text + " ") == npos)
+            if (!absentWord(text))
                 say("BREL_SIM_ABSENT: " + text +
                     ": neither manager, all nor an accessor of IBrelManager");
         });
     }
     bool found = false;
     eachAbsent(gAbsent, [&](std::string_view each) { found = found || each == word; });
+    const char* path = envOrNull("BREL_SIM_PANEL");
+    const Json* profile = path && !found ? &fileSource(path).root : nullptr;
+    if (profile && profile->is_object() && profile->contains("absent") && (*profile)["absent"].is_array())
+        for (const Json& each : (*profile)["absent"]) found = found || each == word;
     return found;
 }
 
@@ -334,6 +382,7 @@ void Panel::reset() {
     gFile.reset();
     gBuiltIn.clear();
     gAbsentRead = false;
+    gCalls.clear();
     forget();
     said().clear();
 }

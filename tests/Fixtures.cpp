@@ -81,6 +81,7 @@ Result runChild(const Start& start, Run body) {
         setenv("BREL_SIM_TRACE", trace.c_str(), 1);
         if (start.panel) setenv("BREL_SIM_PANEL", panel.c_str(), 1);
         for (const auto& [name, value] : start.env) setenv(name.c_str(), value.c_str(), 1);
+        if (const char* library = getenv("LD_PRELOAD")) preload(library);
         redirect(0, input, O_RDONLY);
         redirect(1, out, O_WRONLY | O_CREAT | O_TRUNC);
         redirect(2, err, O_WRONLY | O_CREAT | O_TRUNC);
@@ -116,6 +117,14 @@ Result runEntry(const Start& start) {
         fflush(nullptr);
         _exit(status);
     });
+}
+
+void preload(const std::string& library) {
+    unsetenv("LD_PRELOAD");
+    if (*DUMPBREL_EMULATOR)  // for the emulated program, not for qemu itself
+        setenv("QEMU_SET_ENV", ("LD_PRELOAD=" + library).c_str(), 1);
+    else
+        setenv("LD_PRELOAD", library.c_str(), 1);
 }
 
 void execBinary(const std::vector<std::string>& args) {
