@@ -20,8 +20,7 @@ namespace dumpbrel_test {
 
 namespace {
 
-// Whatever the user exported, the programs of the tests start from no BREL_* variable at all;
-// a child sets what its run needs (execBinary's callers, BREL_SIM_STATE).
+// What the tests start sees none of the user's BREL_* variables.
 const bool gCleared = (clearBrelEnvironment(), true);
 
 std::string readFile(const std::string& path) {
@@ -121,7 +120,7 @@ Result runEntry(const Start& start) {
 
 void preload(const std::string& library) {
     unsetenv("LD_PRELOAD");
-    if (*DUMPBREL_EMULATOR)  // for the emulated program, not for qemu itself
+    if (*DUMPBREL_EMULATOR)
         setenv("QEMU_SET_ENV", ("LD_PRELOAD=" + library).c_str(), 1);
     else
         setenv("LD_PRELOAD", library.c_str(), 1);

@@ -47,8 +47,7 @@ inline Result runEntry(std::vector<std::string> args) {
 // Whether a child of this process can run as `uid` (root, or a user namespace).
 bool canRunAs(int uid);
 
-// Preloads `library` into the binary this process starts next (under qemu, into the emulated
-// program); runBinary does it for an LD_PRELOAD in Start::env.
+// Preloads `library` into the binary started next (under qemu, into the emulated program).
 void preload(const std::string& library);
 
 // Replaces the process with the binary (through the build's emulator, if any), word 0

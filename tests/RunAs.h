@@ -37,9 +37,7 @@ inline bool runAs(uid_t uid) {
            put("/proc/self/gid_map", std::to_string(uid) + " " + std::to_string(outerGid) + " 1");
 }
 
-// Every BREL_* variable removed from this process's environment: what the tests start sees none
-// of the user's own (a profile, a memory, a trace, a recording, a property store), only what
-// the runner sets, each in its own scratch directory; `properties` becomes the property store.
+// None of the user's BREL_* variables left; `properties`, if any, the property store.
 inline void clearBrelEnvironment(const std::string& properties = "") {
     std::vector<std::string> names;
     for (char** each = environ; *each; ++each)
