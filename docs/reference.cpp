@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "RowRuns.h"
 
@@ -147,9 +148,38 @@ std::string calls(const RowRun& run) {
     return cell(text);
 }
 
+// The operations a run called, by name.
+std::vector<std::string> operations(const std::string& trace) {
+    std::vector<std::string> names;
+    for (size_t at = 0; (at = trace.find('.', at)) != std::string::npos; at = trace.find('\n', at)) {
+        size_t open = trace.find('(', at);
+        names.push_back(trace.substr(at + 1, open - at - 1));
+    }
+    return names;
+}
+
+bool reads(const std::string& op) {
+    for (const char* prefix : {"get", "Get", "is", "Is", "read"})
+        if (op.rfind(prefix, 0) == 0) return true;
+    return false;
+}
+
+// record/snapshot.txt: a line for the prompt for every option without argument that calls only
+// reading operations, on the built-in panel and on a neutral one alike.
+int snapshot() {
+    for (const RowRun& run : dumpbrel_test::rowRuns()) {
+        std::vector<std::string> called = operations(run.plain.calls + run.abc.calls);
+        if (run.row.hasArg != 0 || called.empty() || !std::all_of(called.begin(), called.end(), reads))
+            continue;
+        printf("%s --%s\n", run.module.name.c_str(), run.row.longName.c_str());
+    }
+    return 0;
+}
+
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    if (argc > 1 && std::string(argv[1]) == "--snapshot") return snapshot();
     printf(kHead, dumpbrel_test::kSampleArgument);
     const Module* module = nullptr;
     for (const RowRun& run : dumpbrel_test::rowRuns()) {
