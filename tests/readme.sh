@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Each README block starting with "$ " runs in one bash in a scratch directory, dumpbrel and
-# build/tests/log_probe ($LOG_PROBE) being this build's: its commands must print (stderr joined)
-# the lines under them.
+# build/'s probe and recorder being this build's: its commands must print (stderr joined) the
+# lines under them.
 readme=$1 bin=$(realpath "$2")
 # None of the user's own BREL_* settings reaches the examples: they run as in a fresh shell.
 unset "${!BREL_@}"
 shift 2
 emu=("$@") ns=()
 [ "$(id -u)" = 0 ] || ns=(unshare --user --map-root-user)
-dumpbrel() { "${ns[@]}" "${emu[@]}" "$bin" "$@"; }
+# Under qemu a preload is the emulated program's.
+dumpbrel() { env ${emu:+${LD_PRELOAD:+-u LD_PRELOAD QEMU_SET_ENV=LD_PRELOAD=$LD_PRELOAD}} "${ns[@]}" "${emu[@]}" "$bin" "$@"; }
 d=$(mktemp -d)
 trap 'rm -rf "$d"' EXIT
 awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
@@ -17,7 +18,8 @@ awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
   { l = $0 }' "$readme"
 n=0 f=0
 for b in $(ls "$d" | sort -n); do
-    mkdir -p "$d/run/build/tests" && cd "$d/run" &&
+    mkdir -p "$d/run/build/tests" "$d/run/build/record" && cd "$d/run" &&
+        ln -s "$(realpath "$RECORD_LIB")" build/record/libbrel_record.so &&
         printf '#!/bin/sh\nexec %s "$@"\n' "${emu[*]} $(realpath "$LOG_PROBE")" >build/tests/log_probe &&
         chmod +x build/tests/log_probe && grep '^\$ ' "../$b" | while IFS= read -r line; do
         echo "$line"

@@ -191,16 +191,6 @@ TEST_F(LogTest, PropertyDirectoryIsTakenOnEveryCall) {
     EXPECT_EQ(get("p.key", "none"), "none|4");
     EXPECT_EQ(property_set("p.key", "second"), 0);  // makes the directory and its parents
     EXPECT_EQ(fileText(deep / "p.key"), "second\n");
-
-    // Unset or empty: the build's own directory.
-    const char key[] = "dumpbrel.test.default";
-    fs::path stored = fs::path(BREL_PROPERTY_DEFAULT_DIR) / key;
-    setenv("BREL_PROPERTY_DIR", "", 1);
-    EXPECT_EQ(property_set(key, "here"), 0);
-    EXPECT_EQ(fileText(stored), "here\n");
-    unsetenv("BREL_PROPERTY_DIR");
-    EXPECT_EQ(get(key, ""), "here|4");
-    fs::remove(stored);
 }
 
 TEST_F(LogTest, PropertySetRefusals) {
