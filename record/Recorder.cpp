@@ -6,7 +6,6 @@
 
 #include "Recorder.h"
 
-#include <dlfcn.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -20,7 +19,6 @@
 
 #include <json/json.h>
 
-#include "service/BrelCreator.h"
 #include "sim/Files.h"
 #include "sim/Trace.h"
 
@@ -89,17 +87,24 @@ bool load(Run& state, Json::Value& root) {
 void dump(std::string& text, const Json::Value& value, const std::string& indent) {
     bool object = value.isObject();
     if ((!object && !value.isArray()) || value.empty()) {
-        if (value.isString()) return void(text += sim::jsonString(value.asString()));
-        if (value.type() == Json::realValue) {  // the shortest of two precisions that reads back the same
-            char number[32];
-            snprintf(number, sizeof number, "%.15g", value.asDouble());
-            if (strtod(number, nullptr) != value.asDouble())
-                snprintf(number, sizeof number, "%.17g", value.asDouble());
-            return void(text += strchr(number, '.') || strchr(number, 'e') ? number : std::string(number) + ".0");
+        char number[32];
+        switch (value.type()) {
+            case Json::stringValue: text += sim::jsonString(value.asString()); break;
+            case Json::booleanValue: text += value.asBool() ? "true" : "false"; break;
+            case Json::intValue: text += std::to_string(value.asLargestInt()); break;
+            case Json::uintValue: text += std::to_string(value.asLargestUInt()); break;
+            case Json::realValue:  // the shorter of two precisions that reads back the same
+                snprintf(number, sizeof number, "%.15g", value.asDouble());
+                if (strtod(number, nullptr) != value.asDouble())
+                    snprintf(number, sizeof number, "%.17g", value.asDouble());
+                text += number;
+                if (!strpbrk(number, ".en")) text += ".0";
+                break;
+            case Json::objectValue: text += "{}"; break;
+            case Json::arrayValue: text += "[]"; break;
+            default: text += "null";
         }
-        Json::StreamWriterBuilder writer;
-        writer["indentation"] = "";
-        return void(text += Json::writeString(writer, value));
+        return;
     }
     text += object ? "{\n" : "[\n";
     const std::vector<std::string> names = object ? value.getMemberNames() : std::vector<std::string>();
@@ -185,20 +190,10 @@ void absent(const char* word) {
 
 }  // namespace record
 
-namespace android {
-
-// In front of the library's own: with BREL_RECORD, its manager wrapped; without, untouched.
-IBrelManager* BrelCreator::create() {
-    using Create = IBrelManager* (*)();
-    static Create next = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "_ZN7android11BrelCreator6createEv"));
-    if (next == nullptr) {
-        record::say("no vendor library behind the recorder");
-        return nullptr;
-    }
-    IBrelManager* manager = next();
-    if (record::envOrNull("BREL_RECORD") == nullptr) return manager;
-    if (manager == nullptr) record::absent("manager");
-    return record::wrap(manager);
+// The recorder's entry for the preloaded front (record/Front.cpp): the library's manager wrapped,
+// or null written absent.
+extern "C" __attribute__((visibility("default"))) android::IBrelManager* brel_record_wrap(
+        android::IBrelManager* real) {
+    if (real == nullptr) record::absent("manager");
+    return record::wrap(real);
 }
-
-}  // namespace android

@@ -18,8 +18,8 @@ awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
   { l = $0 }' "$readme"
 n=0 f=0
 for b in $(ls "$d" | sort -n); do
-    mkdir -p "$d/run/build/tests" "$d/run/build/record" && cd "$d/run" &&
-        ln -s "$(realpath "$RECORD_LIB")" build/record/libbrel_record.so &&
+    mkdir -p "$d/run/build/tests" && cd "$d/run" &&
+        ln -s "$(dirname "$(realpath "$RECORD_LIB")")" build/record &&
         printf '#!/bin/sh\nexec %s "$@"\n' "${emu[*]} $(realpath "$LOG_PROBE")" >build/tests/log_probe &&
         chmod +x build/tests/log_probe && grep '^\$ ' "../$b" | while IFS= read -r line; do
         echo "$line"
