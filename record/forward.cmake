@@ -11,17 +11,7 @@
 
 cmake_minimum_required(VERSION 3.18)
 
-# The code of a header made easy to match: comments out, blanks made one, ';' and brackets out
-# of the way of CMake's lists.
-function(read_code header out)
-    file(READ "${header}" code)
-    string(REGEX REPLACE "//[^\n]*" "" code "${code}")
-    string(REPLACE ";" " " code "${code}")
-    string(REPLACE "[" "<" code "${code}")
-    string(REPLACE "]" ">" code "${code}")
-    string(REGEX REPLACE "[ \t\r\n]+" " " code "${code}")
-    set(${out} "${code}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/../cmake/read_code.cmake)
 
 set(declaration "virtual ([^()]*[^ ()]) ([A-Za-z_][A-Za-z0-9_]*)\\(([^()]*)\\) ?(const )?= 0")
 set(includes "")

@@ -21,17 +21,7 @@ cmake_minimum_required(VERSION 3.18)
 file(GLOB sources "${SIM_DIR}/*.cpp" "${SIM_DIR}/Records.h")
 list(SORT sources)
 
-# The code of a file made easy to match: comments out, blanks made one; ';' out and brackets
-# made angle brackets, which CMake's lists would otherwise take for their own.
-function(read_code source out)
-    file(READ "${source}" code)
-    string(REGEX REPLACE "//[^\n]*" "" code "${code}")
-    string(REPLACE ";" "" code "${code}")
-    string(REPLACE "[" "<" code "${code}")
-    string(REPLACE "]" ">" code "${code}")
-    string(REGEX REPLACE "[ \t\r\n]+" " " code "${code}")
-    set(${out} "${code}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/../cmake/read_code.cmake)
 
 # First the records, wherever they are declared: "=Type field field...".
 set(records "")
