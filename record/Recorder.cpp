@@ -122,8 +122,9 @@ void dump(std::string& text, const Json::Value& value, const std::string& indent
 template <typename Change>
 void update(Change change) {
     Run& state = run();
-    if (state.path.empty()) state.path = envOrNull("BREL_RECORD");
-    if (state.broken) return;
+    const char* path = envOrNull("BREL_RECORD");
+    if (state.path.empty() && path) state.path = path;
+    if (state.broken || state.path.empty()) return;
     int lock = sim::lockBeside(state.path);
     if (lock < 0) {
         say(state.path + ": cannot record: " + strerror(errno));
