@@ -8,8 +8,10 @@ unset "${!BREL_@}"
 shift 2
 emu=("$@") ns=()
 [ "$(id -u)" = 0 ] || ns=(unshare --user --map-root-user)
-# Under qemu a preload is the emulated program's.
-dumpbrel() { env ${emu:+${LD_PRELOAD:+-u LD_PRELOAD QEMU_SET_ENV=LD_PRELOAD=$LD_PRELOAD}} "${ns[@]}" "${emu[@]}" "$bin" "$@"; }
+dumpbrel() {  # under qemu a preload is the emulated program's, not any host program's
+    if [ -n "${emu[*]}" ] && [ -n "${LD_PRELOAD:-}" ]; then local -x QEMU_SET_ENV=LD_PRELOAD=$LD_PRELOAD; unset LD_PRELOAD; fi
+    "${ns[@]}" "${emu[@]}" "$bin" "$@"
+}
 d=$(mktemp -d)
 trap 'rm -rf "$d"' EXIT
 awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
