@@ -11,7 +11,7 @@
 
 cmake_minimum_required(VERSION 3.18)
 
-include(${CMAKE_CURRENT_LIST_DIR}/../cmake/read_code.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/../sim/read_code.cmake)
 
 set(declaration "virtual ([^()]*[^ ()]) ([A-Za-z_][A-Za-z0-9_]*)\\(([^()]*)\\) ?(const )?= 0")
 set(includes "")

@@ -21,7 +21,7 @@ cmake_minimum_required(VERSION 3.18)
 file(GLOB sources "${SIM_DIR}/*.cpp" "${SIM_DIR}/Records.h")
 list(SORT sources)
 
-include(${CMAKE_CURRENT_LIST_DIR}/../cmake/read_code.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/read_code.cmake)
 
 # First the records, wherever they are declared: "=Type field field...".
 set(records "")

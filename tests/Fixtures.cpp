@@ -120,7 +120,6 @@ Result runEntry(const Start& start) {
 
 void preload(const std::string& library) {
     unsetenv("LD_PRELOAD");
-    // Preloaded, it comes before a sanitizer's runtime; it is built without one, so that is safe.
     const char* asan = getenv("ASAN_OPTIONS");
     setenv("ASAN_OPTIONS", (asan ? asan + std::string(":") : "").append("verify_asan_link_order=0").c_str(), 1);
     if (*DUMPBREL_EMULATOR)

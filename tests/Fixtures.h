@@ -47,7 +47,7 @@ inline Result runEntry(std::vector<std::string> args) {
 // Whether a child of this process can run as `uid` (root, or a user namespace).
 bool canRunAs(int uid);
 
-// Preloads `library` into the binary started next (under qemu, into the emulated program).
+// Preloads `library` (uninstrumented, before ASan's runtime) into the binary started next.
 void preload(const std::string& library);
 
 // Replaces the process with the binary (through the build's emulator, if any), word 0

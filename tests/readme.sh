@@ -8,7 +8,7 @@ unset "${!BREL_@}"
 shift 2
 emu=("$@") ns=()
 [ "$(id -u)" = 0 ] || ns=(unshare --user --map-root-user)
-dumpbrel() {  # under qemu a preload is the emulated program's, not any host program's
+dumpbrel() {  # under qemu a preload is the emulated program's
     [ -z "${LD_PRELOAD:-}" ] || local -x ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0
     if [ -n "${emu[*]}" ] && [ -n "${LD_PRELOAD:-}" ]; then local -x QEMU_SET_ENV=LD_PRELOAD=$LD_PRELOAD; unset LD_PRELOAD; fi
     "${ns[@]}" "${emu[@]}" "$bin" "$@"
