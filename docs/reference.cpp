@@ -3,10 +3,12 @@
 // entry against the simulated panel: what an argument is made of is found by changing it and
 // watching the calls, what a letter does by typing it. Rewrite the reference after a change to
 // any table:
-//     cmake --build build --target options_reference && build/docs/options_reference > docs/options.md
+//     cmake --build build --target options_reference && build/docs/options_reference >
+//     docs/options.md
 // With --snapshot it writes record/snapshot.txt instead.
 
 #include <stdlib.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,12 +17,12 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
-
-#include <nlohmann/json.hpp>
 
 #include "RowRuns.h"
 
@@ -84,17 +86,18 @@ std::string outcome(const Module& module, const Result& run) {
 
 // How a row is given an argument: `--name=TEXT`, or `-l TEXT` where only its letter carries one.
 struct Form {
-    Words lead;
+    std::string lead;
     bool attached = true;
     Words words(const std::string& value) const {
-        if (attached) return {lead[0] + "=" + value};
-        return {lead[0], value};
+        if (attached) return {lead + "=" + value};
+        return {lead, value};
     }
 };
 
 std::string shellWord(const std::string& word) {
-    if (!word.empty() && word.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
-                                                "0123456789-_=,.:/+@%") == std::string::npos)
+    if (!word.empty() &&
+        word.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                               "0123456789-_=,.:/+@%") == std::string::npos)
         return word;
     std::string quoted = "'";
     for (char c : word) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -133,7 +136,10 @@ std::string visible(const std::string& line) {
     for (unsigned char c : line) {
         char escape[8];
         snprintf(escape, sizeof escape, "\\x%02x", c);
-        text += c == '\\' ? "\\\\" : c == '\t' ? "\\t" : c < 0x20 || c == 0x7f ? escape : std::string(1, c);
+        text += c == '\\'               ? "\\\\"
+                : c == '\t'             ? "\\t"
+                : c < 0x20 || c == 0x7f ? escape
+                                        : std::string(1, c);
     }
     // A blank at the end, which a page would not show.
     if (!text.empty() && text.back() == ' ') text.replace(text.size() - 1, 1, "\\x20");
@@ -225,7 +231,7 @@ struct Argument {
     bool whole = false;  // passed on as typed
     char separator = 0;  // 0: one value
     std::vector<Field> fields;
-    Words base;          // accepted: a value for each field read
+    Words base;  // accepted: a value for each field read
     std::string exampleValue;
 };
 
@@ -239,13 +245,15 @@ std::string joined(const Words& values, char separator) {
 }
 
 // Which of kFields fields, apart by `separator`, change what reaches the panel.
-std::vector<bool> fieldsRead(const Module& module, const Form& form, const Words& base, char separator) {
+std::vector<bool> fieldsRead(const Module& module, const Form& form, const Words& base,
+                             char separator) {
     const std::string before = outcome(module, runWith(module, form, joined(base, separator)));
     std::vector<bool> read(base.size());
     for (size_t k = 0; k < base.size(); ++k) {
         // 0 against a number: apart as numbers and as bools.
         const std::string other = base[k] == "0" ? "2" : "0";
-        read[k] = outcome(module, runWith(module, form, joined(with(base, k, other), separator))) != before;
+        read[k] = outcome(module, runWith(module, form, joined(with(base, k, other), separator))) !=
+                  before;
     }
     while (!read.empty() && !read.back()) read.pop_back();
     return read;
@@ -261,7 +269,8 @@ std::string range(long long low, long long high) {
 // The values of field `k` that are not refused, where some are; found on a ladder of values and
 // narrowed between neighbours that part.
 std::string accepted(const Module& module, const Argument& arg, size_t k) {
-    const std::vector<long long> ladder = {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 10, 25, 33, 101, 256, 65536, INT_MAX};
+    const std::vector<long long> ladder = {INT_MIN, -1, 0,  1,   2,   3,     4,      5,
+                                           10,      25, 33, 101, 256, 65536, INT_MAX};
     auto takes = [&](long long value) {
         Words values = with(arg.base, k, std::to_string(value));
         return !refused(module, runWith(module, arg.form, joined(values, arg.separator)));
@@ -310,15 +319,17 @@ Field field(const Module& module, const Argument& arg, size_t k) {
     f.hex = !refused(module, hex) && hex.calls.find("255") != std::string::npos;
     const std::string other = f.hex ? "xyz" : "abc";
     const Result& word = runOf(other);
-    const std::string kind = f.hex ? "text that is no hexadecimal number" : "text that is no number";
+    const std::string kind =
+            f.hex ? "text that is no hexadecimal number" : "text that is no number";
     if (refused(module, word)) {
         f.noNumber = kind + " is refused";
     } else if (outcome(module, word) == outcome(module, runOf("0"))) {
         f.noNumber = kind + " counts as 0";
     } else {
         Words shown = with(arg.base, k, other);
-        f.noNumber = code(joined(shown, arg.separator)) + " calls " +
-                     callList(module, runWith(module, arg.form, joined(shown, arg.separator)).calls);
+        f.noNumber =
+                code(joined(shown, arg.separator)) + " calls " +
+                callList(module, runWith(module, arg.form, joined(shown, arg.separator)).calls);
     }
     const Result& real = runOf("1.5");
     f.real = !refused(module, real) && real.calls.find("1.5") != std::string::npos;
@@ -336,7 +347,8 @@ Argument analyse(const Module& module, const Form& form) {
             Words base(kFields, value);
             const Result& first = runWith(module, form, joined(base, separator));
             if (refused(module, first)) continue;
-            if (!arg.any && first.calls.find('"' + joined(base, separator) + '"') != std::string::npos) {
+            if (!arg.any &&
+                first.calls.find('"' + joined(base, separator) + '"') != std::string::npos) {
                 arg.any = arg.whole = true;
                 arg.base = {joined(base, separator)};
                 return arg;
@@ -344,7 +356,10 @@ Argument analyse(const Module& module, const Form& form) {
             // Another separator is looked at only where it reaches a second field.
             if (separator != ',' &&
                 outcome(module, first) ==
-                    outcome(module, runWith(module, form, joined(with(base, 1, value == std::string("0") ? "2" : "0"), separator))))
+                        outcome(module,
+                                runWith(module, form,
+                                        joined(with(base, 1, value == std::string("0") ? "2" : "0"),
+                                               separator))))
                 break;
             std::vector<bool> read = fieldsRead(module, form, base, separator);
             if (!arg.any || read.size() > best.size()) {
@@ -353,7 +368,8 @@ Argument analyse(const Module& module, const Form& form) {
                 arg.separator = read.size() > 1 ? separator : 0;
                 // Where no field alone changes the calls, the whole of what was tried.
                 arg.base = Words(std::max<size_t>(read.size(), 1), value);
-                if (read.empty() && outcome(module, first) != outcome(module, runWith(module, form, value)))
+                if (read.empty() &&
+                    outcome(module, first) != outcome(module, runWith(module, form, value)))
                     arg.base = base;
             }
             break;
@@ -361,7 +377,8 @@ Argument analyse(const Module& module, const Form& form) {
         if (best.size() > 1) break;
     }
     if (!arg.any) return arg;
-    for (size_t k = 0; k < best.size(); ++k) arg.fields.push_back(best[k] ? field(module, arg, k) : Field());
+    for (size_t k = 0; k < best.size(); ++k)
+        arg.fields.push_back(best[k] ? field(module, arg, k) : Field());
     return arg;
 }
 
@@ -386,13 +403,16 @@ std::string exampleValue(const Module& module, const Argument& arg) {
             values[k] = "abc";
             continue;
         }
-        for (const std::string& candidate : {std::to_string(k + 1), std::string("1"), std::string("0")})
-            if (!refused(module, runWith(module, arg.form, joined(with(arg.base, k, candidate), arg.separator)))) {
+        for (const std::string& candidate :
+             {std::to_string(k + 1), std::string("1"), std::string("0")})
+            if (!refused(module, runWith(module, arg.form,
+                                         joined(with(arg.base, k, candidate), arg.separator)))) {
                 values[k] = candidate;
                 break;
             }
     }
-    if (refused(module, runWith(module, arg.form, joined(values, arg.separator)))) values = arg.base;
+    if (refused(module, runWith(module, arg.form, joined(values, arg.separator))))
+        values = arg.base;
     return joined(values, arg.separator);
 }
 
@@ -404,10 +424,13 @@ std::string argumentWords(const Module& module, const Argument& arg) {
         text = "text, passed on as typed.";
     } else if (arg.fields.empty()) {
         const std::string tried = joined(arg.base, ',');
-        bool same = outcome(module, runWith(module, arg.form, tried)) == outcome(module, runWith(module, arg.form, "1"));
+        bool same = outcome(module, runWith(module, arg.form, tried)) ==
+                    outcome(module, runWith(module, arg.form, "1"));
         text = same ? "required, but not read: whatever it is, the same is called."
-                    : "required; no field of " + code(tried) + " changes what is called when changed alone, but " +
-                          code("1") + " calls " + callList(module, runWith(module, arg.form, "1").calls) + ".";
+                    : "required; no field of " + code(tried) +
+                               " changes what is called when changed alone, but " + code("1") +
+                               " calls " + callList(module, runWith(module, arg.form, "1").calls) +
+                               ".";
     } else if (arg.fields.size() == 1) {
         text = fieldWords(arg.fields[0]) + ".";
     } else {
@@ -420,10 +443,12 @@ std::string argumentWords(const Module& module, const Argument& arg) {
         } else {
             text += ":";
             for (size_t k = 0; k < arg.fields.size(); ++k)
-                text += std::string(k ? ";" : "") + " the " + ordinal(k) + " " + fieldWords(arg.fields[k]);
+                text += std::string(k ? ";" : "") + " the " + ordinal(k) + " " +
+                        fieldWords(arg.fields[k]);
             text += ".";
         }
-        text += " Anything after the " + std::string(ordinal(arg.fields.size() - 1)) + " field is not read.";
+        text += " Anything after the " + std::string(ordinal(arg.fields.size() - 1)) +
+                " field is not read.";
         std::string fewer = joined(Words(arg.base.begin(), arg.base.end() - 1), arg.separator);
         const Result& shorter = runWith(module, arg.form, fewer);
         text += " With fewer, as " + code(fewer) + ", " +
@@ -431,8 +456,9 @@ std::string argumentWords(const Module& module, const Argument& arg) {
                                           : "it calls " + callList(module, shorter.calls) + ".");
     }
     const Result& empty = runWith(module, arg.form, "");
-    text += " An empty argument " +
-            (refused(module, empty) ? std::string("is refused.") : "calls " + callList(module, empty.calls) + ".");
+    text += " An empty argument " + (refused(module, empty)
+                                             ? std::string("is refused.")
+                                             : "calls " + callList(module, empty.calls) + ".");
     return text;
 }
 
@@ -499,7 +525,8 @@ std::vector<Step> steps(const Module& module, const Words& words) {
 
 std::string stepWords(const Step& step, const Row& self) {
     std::string name = step.row == &self ? "this option" : code("--" + step.row->longName);
-    return name + (step.argument ? " with " + code(step.value) : std::string(" without an argument"));
+    return name +
+           (step.argument ? " with " + code(step.value) : std::string(" without an argument"));
 }
 
 // What typing the row's letter as the option list shows it does, where that is more than
@@ -522,16 +549,17 @@ std::string letterSentence(const Module& module, const Row& row, bool takesArgum
     for (const Step& step : reached)
         if (step.row->longName != "help") expected.push_back(step.row->longName);
     if (named != expected) {
-        fprintf(stderr, "%s %s: the rows reached (%s) are not those named (%s)\n", module.name.c_str(),
-                join(words, " ").c_str(), join(expected, " ").c_str(), join(named, " ").c_str());
+        fprintf(stderr, "%s %s: the rows reached (%s) are not those named (%s)\n",
+                module.name.c_str(), join(words, " ").c_str(), join(expected, " ").c_str(),
+                join(named, " ").c_str());
         exit(1);
     }
 
     std::string unknown;
     size_t at = typed.out.find("unknown option: ");
     if (at != std::string::npos) unknown = typed.out.substr(at, typed.out.find('\n', at) - at);
-    if (reached.size() == 1 && reached[0].row == &row && unknown.empty() && !refused(module, typed) &&
-        reached[0].argument == takesArgument)
+    if (reached.size() == 1 && reached[0].row == &row && unknown.empty() &&
+        !refused(module, typed) && reached[0].argument == takesArgument)
         return "";
 
     // The rows that run: up to the first that refuses on its own.
@@ -542,7 +570,8 @@ std::string letterSentence(const Module& module, const Row& row, bool takesArgum
         Words alone = {"-" + std::string(1, step.row->shortSpec[0]) + step.value};
         if ((stopped = refused(module, run(module, alone)))) break;
     }
-    std::string text = "Typed as the option list shows it, " + code(commandLine(module, words)) + " ";
+    std::string text =
+            "Typed as the option list shows it, " + code(commandLine(module, words)) + " ";
     if (ran.empty())
         return text + "reaches no option: it prints " + code(unknown) +
                " and the option list, and calls nothing.";
@@ -553,7 +582,8 @@ std::string letterSentence(const Module& module, const Row& row, bool takesArgum
         text += ", which refuses: it prints the option list";
     else if (!unknown.empty())
         text += "; then " + code(unknown) + " and the option list";
-    text += typed.calls.empty() ? ", and calls nothing." : "; it calls " + callList(module, typed.calls) + ".";
+    text += typed.calls.empty() ? ", and calls nothing."
+                                : "; it calls " + callList(module, typed.calls) + ".";
     return text;
 }
 
@@ -570,7 +600,8 @@ bool reads(const std::string& operation) {
 struct Scratch {
     std::string path;
     Scratch() {
-        std::string base = (getenv("TMPDIR") ? getenv("TMPDIR") : "/tmp") + std::string("/dumpbrel-reference-XXXXXX");
+        std::string base = (getenv("TMPDIR") ? getenv("TMPDIR") : "/tmp") +
+                           std::string("/dumpbrel-reference-XXXXXX");
         path = mkdtemp(base.data()) ? base : "";
     }
     ~Scratch() {
@@ -579,8 +610,10 @@ struct Scratch {
 };
 
 // What the simulated panel's memory keeps of a run: "getter(arguments)" and its value.
-std::vector<std::pair<std::string, std::string>> kept(const Module& module, const Words& words, const Scratch& scratch) {
-    const std::string file = scratch.path + "/memory.json";
+std::string gScratch;  // the writer's scratch directory
+
+std::vector<std::pair<std::string, std::string>> kept(const Module& module, const Words& words) {
+    const std::string file = gScratch + "/memory-" + std::to_string(getpid()) + ".json";
     std::filesystem::remove(file);
     run(module, words, {{"BREL_SIM_STATE", file}});
     std::ifstream in(file);
@@ -589,7 +622,8 @@ std::vector<std::pair<std::string, std::string>> kept(const Module& module, cons
     if (!memory.is_object()) return found;
     for (auto& [iface, keys] : memory.items())
         if (keys.is_object())
-            for (auto& [key, value] : keys.items()) found.push_back({iface + "." + key, value.dump()});
+            for (auto& [key, value] : keys.items())
+                found.push_back({iface + "." + key, value.dump()});
     return found;
 }
 
@@ -623,7 +657,8 @@ Entry entry(const Module& module, const Row& row) {
     gSeen = &seen;
     Entry e{&row, "", {}};
     Words blocks = {head(row)};
-    if (!row.help.empty()) blocks.push_back("Its help in the option list:\n\n" + verbatim(row.help));
+    if (!row.help.empty())
+        blocks.push_back("Its help in the option list:\n\n" + verbatim(row.help));
 
     // The argument comes with the long form, or, where that has none, with a letter that carries
     // one to this row, if the row reads it.
@@ -635,7 +670,7 @@ Entry entry(const Module& module, const Row& row) {
         arg = analyse(module, form);
     } else if (!row.shortSpec.empty() && colonsAfter(module, row.shortSpec[0]) == ":" &&
                rowOfLetter(module, row.shortSpec[0]) == &row) {
-        form = {{"-" + std::string(1, row.shortSpec[0])}, false};
+        form = {"-" + std::string(1, row.shortSpec[0]), false};
         arg = analyse(module, form);
         takesArgument = arg.whole || !arg.fields.empty();
         if (!takesArgument) seen.clear();
@@ -653,9 +688,10 @@ Entry entry(const Module& module, const Row& row) {
         blocks.push_back(example(module, words, plain));
     }
     if (takesArgument) {
-        blocks.push_back(wrap("Argument" +
-                              std::string(row.hasArg == 0 ? " (through " + code(form.lead[0]) + ")" : "") +
-                              ": " + argumentWords(module, arg)));
+        blocks.push_back(
+                wrap("Argument" +
+                     std::string(row.hasArg == 0 ? " (through " + code(form.lead) + ")" : "") +
+                     ": " + argumentWords(module, arg)));
         std::string value = arg.any ? exampleValue(module, arg) : "1";
         words = form.words(value);
         blocks.push_back(example(module, words, runWith(module, form, value)));
@@ -672,9 +708,11 @@ Entry entry(const Module& module, const Row& row) {
         Words parts;
         for (const auto& [operations, argument] : sets) {
             Words names;
-            for (const std::string& op : operations) names.push_back(code(op.substr(op.find('.') + 1)));
-            parts.push_back((names.empty() ? std::string("nothing") : join(names, " and ")) +
-                            (argument.empty() ? " without an argument" : " with " + code(argument)));
+            for (const std::string& op : operations)
+                names.push_back(code(op.substr(op.find('.') + 1)));
+            parts.push_back(
+                    (names.empty() ? std::string("nothing") : join(names, " and ")) +
+                    (argument.empty() ? " without an argument" : " with " + code(argument)));
         }
         notes += wrap("- What it calls depends on the argument: " + join(parts, "; ") + ".", "  ");
     }
@@ -683,11 +721,10 @@ Entry entry(const Module& module, const Row& row) {
         if (!reads(op)) changing.push_back(code(op.substr(op.find('.') + 1)));
     if (!changing.empty()) {
         std::string text = "- It changes the panel: it calls " + join(changing, ", ") + ".";
-        static Scratch scratch;
-        for (const auto& [getter, value] : kept(module, words, scratch))
+        for (const auto& [getter, value] : kept(module, words))
             text += " The simulated panel's memory keeps what it sets: afterwards " +
-                    code(getter.substr(getter.find('.') + 1)) + " of " + getter.substr(0, getter.find('.')) +
-                    " answers " + code(value) + ".";
+                    code(getter.substr(getter.find('.') + 1)) + " of " +
+                    getter.substr(0, getter.find('.')) + " answers " + code(value) + ".";
         notes += wrap(text, "  ");
     }
     std::string letter = letterSentence(module, row, takesArgument);
@@ -733,7 +770,8 @@ wherever that is not simply this option.
 int snapshot() {
     for (const RowRun& run : dumpbrel_test::rowRuns()) {
         std::set<std::string> called = operationsOf(run.plain.calls + run.abc.calls);
-        if (run.row.hasArg != 0 || called.empty() || !std::all_of(called.begin(), called.end(), reads))
+        if (run.row.hasArg != 0 || called.empty() ||
+            !std::all_of(called.begin(), called.end(), reads))
             continue;
         printf("%s --%s\n", run.module.name.c_str(), run.row.longName.c_str());
     }
@@ -746,37 +784,101 @@ std::string anchor(const std::string& name) {
     return lower;
 }
 
+// The entries of every sub-service. The runs are nearly all of the cost, so children share the
+// rows (each takes every n-th), write their entries to the scratch directory and the
+// entries are read back in order: operations a line each, then the text, each after its count.
+std::vector<std::vector<Entry>> entries(const std::vector<Module>& modules) {
+    const size_t workers = std::clamp<size_t>(std::thread::hardware_concurrency(), 1, 8);
+    fflush(nullptr);
+    std::vector<pid_t> children;
+    for (size_t worker = 0; worker < workers; ++worker) {
+        pid_t pid = fork();
+        if (pid == 0) {
+            std::ofstream out(gScratch + "/" + std::to_string(worker), std::ios::binary);
+            size_t n = 0;
+            for (const Module& module : modules)
+                for (const Row& row : module.rows) {
+                    if (n++ % workers != worker) continue;
+                    Entry e = entry(module, row);
+                    out << e.operations.size() << "\n";
+                    for (const std::string& op : e.operations) out << op << "\n";
+                    out << e.text.size() << "\n" << e.text;
+                }
+            out.close();
+            fflush(nullptr);
+            _exit(out ? 0 : 1);
+        }
+        children.push_back(pid);
+    }
+    bool whole = true;
+    for (pid_t pid : children) {
+        int status = 0;
+        whole = waitpid(pid, &status, 0) == pid && WIFEXITED(status) && WEXITSTATUS(status) == 0 &&
+                whole;
+    }
+    if (!whole) {
+        fprintf(stderr, "options_reference: a writer of entries failed\n");
+        exit(1);
+    }
+    std::vector<std::vector<Entry>> all(modules.size());
+    std::vector<std::ifstream> files;
+    for (size_t worker = 0; worker < workers; ++worker)
+        files.emplace_back(gScratch + "/" + std::to_string(worker), std::ios::binary);
+    size_t n = 0;
+    for (size_t i = 0; i < modules.size(); ++i)
+        for (const Row& row : modules[i].rows) {
+            std::ifstream& in = files[n++ % workers];
+            Entry e{&row, "", {}};
+            size_t count = 0;
+            in >> count;
+            in.ignore();
+            for (std::string op; count-- > 0 && std::getline(in, op);) e.operations.insert(op);
+            in >> count;
+            in.ignore();
+            e.text.resize(count);
+            in.read(e.text.data(), static_cast<std::streamsize>(count));
+            all[i].push_back(std::move(e));
+        }
+    return all;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     if (argc > 1 && std::string(argv[1]) == "--snapshot") return snapshot();
-    std::vector<std::pair<const Module*, std::vector<Entry>>> sections;
-    std::map<std::string, Words> callers;  // "IAudioCtrl.setAudioGain" -> "AudioCtrl `--x`"
-    for (const Module& module : dumpbrel_test::registry()) {
-        sections.push_back({&module, {}});
-        for (const Row& row : module.rows) {
-            Entry e = entry(module, row);
-            for (const std::string& op : e.operations) callers[op].push_back(module.name + " " + code("--" + row.longName));
-            sections.back().second.push_back(std::move(e));
-        }
+    Scratch scratch;
+    if (scratch.path.empty()) {
+        perror("options_reference: a scratch directory");
+        return 1;
     }
+    gScratch = scratch.path;
+    const std::vector<Module>& modules = dumpbrel_test::registry();
+    std::vector<std::vector<Entry>> sections = entries(modules);
+    std::map<std::string, Words> callers;  // "IAudioCtrl.setAudioGain" -> "AudioCtrl `--x`"
+    for (size_t i = 0; i < modules.size(); ++i)
+        for (const Entry& e : sections[i])
+            for (const std::string& op : e.operations)
+                callers[op].push_back(modules[i].name + " " + code("--" + e.row->longName));
 
     printf("%s\n## Index\n\n### Sub-services\n\n", kHead);
-    Words modules;
-    for (const auto& [module, entries] : sections)
-        modules.push_back("[" + module->name + "](#" + anchor(module->name) + ") (" + std::to_string(entries.size()) + ")");
-    printf("%s", wrap(join(modules, ", ")).c_str());
-    printf("\n### Operations\n\nEvery operation an option calls, with the interface, and the options that call it.\n\n");
+    Words names;
+    for (size_t i = 0; i < modules.size(); ++i)
+        names.push_back("[" + modules[i].name + "](#" + anchor(modules[i].name) + ") (" +
+                        std::to_string(sections[i].size()) + ")");
+    printf("%s", wrap(join(names, ", ")).c_str());
+    printf("\n### Operations\n\nEvery operation an option calls, with the interface, and the "
+           "options that call it.\n\n");
     std::map<std::string, std::string> byName;  // sorted by the operation's own name
-    for (const auto& [op, names] : callers) byName[anchor(op.substr(op.find('.') + 1)) + " " + op] = op;
+    for (const auto& [op, names] : callers)
+        byName[anchor(op.substr(op.find('.') + 1)) + " " + op] = op;
     for (const auto& [key, op] : byName)
-        printf("%s", wrap("- " + code(op.substr(op.find('.') + 1)) + " (" + op.substr(0, op.find('.')) +
-                              "): " + join(callers[op], ", "),
+        printf("%s", wrap("- " + code(op.substr(op.find('.') + 1)) + " (" +
+                                  op.substr(0, op.find('.')) + "): " + join(callers[op], ", "),
                           "  ")
-                          .c_str());
-    for (const auto& [module, entries] : sections) {
-        printf("\n## %s\n", module->name.c_str());
-        for (const Entry& e : entries) printf("\n%s", e.text.c_str());
+                             .c_str());
+    for (size_t i = 0; i < modules.size(); ++i) {
+        printf("\n## %s\n", modules[i].name.c_str());
+        for (const Entry& e : sections[i]) printf("\n%s", e.text.c_str());
     }
     return 0;
 }
