@@ -1,8 +1,8 @@
 #pragma once
 
-// Every row of the registry run by its long name through the binary's entry: the one walk from
-// which both the listing of what rows print (tests/e2e/rows.golden) and the reference of every
-// option (docs/options.md) are written.
+// Every row of the registry run by its long name through the binary's entry: the walk from which
+// the listing of what rows print (tests/e2e/rows.golden) and record/snapshot.txt are written; the
+// reference of every option (docs/options.md) starts from the same registry.
 
 #include <string>
 #include <vector>
