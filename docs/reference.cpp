@@ -232,7 +232,6 @@ struct Argument {
     char separator = 0;  // 0: one value
     std::vector<Field> fields;
     Words base;  // accepted: a value for each field read
-    std::string exampleValue;
 };
 
 Words with(Words values, size_t index, const std::string& value) {
@@ -609,9 +608,9 @@ struct Scratch {
     }
 };
 
-// What the simulated panel's memory keeps of a run: "getter(arguments)" and its value.
 std::string gScratch;  // the writer's scratch directory
 
+// What the simulated panel's memory keeps of a run: "Interface.getter(arguments)" and its value.
 std::vector<std::pair<std::string, std::string>> kept(const Module& module, const Words& words) {
     const std::string file = gScratch + "/memory-" + std::to_string(getpid()) + ".json";
     std::filesystem::remove(file);
