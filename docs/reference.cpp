@@ -16,8 +16,8 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
 #include <string>
@@ -25,6 +25,7 @@
 #include <vector>
 
 #include "RowRuns.h"
+#include "adaptor/Json.h"
 
 namespace {
 
@@ -616,13 +617,14 @@ std::vector<std::pair<std::string, std::string>> kept(const Module& module, cons
     std::filesystem::remove(file);
     run(module, words, {{"BREL_SIM_STATE", file}});
     std::ifstream in(file);
-    nlohmann::json memory = nlohmann::json::parse(in, nullptr, false);
+    std::string text((std::istreambuf_iterator<char>(in)), {}), error;
+    Json::Value memory;
     std::vector<std::pair<std::string, std::string>> found;
-    if (!memory.is_object()) return found;
-    for (auto& [iface, keys] : memory.items())
-        if (keys.is_object())
-            for (auto& [key, value] : keys.items())
-                found.push_back({iface + "." + key, value.dump()});
+    if (!adaptor::parse(text, memory, error) || !memory.isObject()) return found;
+    for (const std::string& iface : memory.getMemberNames())
+        if (memory[iface].isObject())
+            for (const std::string& key : memory[iface].getMemberNames())
+                found.push_back({iface + "." + key, adaptor::profileText(memory[iface][key], true)});
     return found;
 }
 

@@ -1,24 +1,37 @@
+// The simulated panel's backend: a call is answered from the memory, then from the profile in
+// force (BREL_SIM_PANEL's file, or the built-in profile), under the key with the call's
+// arguments first, then under the operation's name; "in order" answers count the calls of their
+// key. A profile's names are checked against the table of the service's shape when it is first
+// read. Each call is traced (BREL_SIM_TRACE), and a setter the memory keeps stores its value.
+
 #include "Panel.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <map>
 #include <memory>
-#include <optional>
 #include <set>
 
-#include "Files.h"
 #include "Profiles.h"
+#include "adaptor/Files.h"
+#include "service/BrelCreator.h"
 
 namespace sim {
 
+// The built-in profile (sim/panel.json): one JSON object of operations per interface, written
+// into the library at build time.
+extern const char* const kBuiltIn[][2];
+extern const size_t kBuiltInCount;
+
 namespace {
 
-const Json* json(const void* p) {
-    return static_cast<const Json*>(p);
-}
+using adaptor::Call;
+using adaptor::kService;
+using adaptor::Kind;
+using adaptor::Operation;
+using adaptor::Type;
 
 const char* envOrNull(const char* name) {
     const char* value = getenv(name);
@@ -28,13 +41,12 @@ const char* envOrNull(const char* name) {
 // A parsed source of answers: the file of BREL_SIM_PANEL, or one interface's built-in part.
 struct Source {
     std::string name;  // for problem lines
-    Json root;         // an object, or null when it could not be used
+    Json::Value root;  // an object, or null when it could not be used
 };
 
-std::unique_ptr<Source> gFile;                  // BREL_SIM_PANEL, once read
+std::unique_ptr<Source> gFile;                         // BREL_SIM_PANEL, once read
 std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
-std::string gProblemSource = "built-in profile";
-const char* gAbsent = nullptr;  // BREL_SIM_ABSENT, once read
+const char* gAbsent = nullptr;                         // BREL_SIM_ABSENT, once read
 bool gAbsentRead = false;
 std::map<std::string, size_t> gCalls;  // calls so far of each key answered in order
 
@@ -45,56 +57,16 @@ std::set<std::string>& said() {
     return lines;
 }
 
-Source parse(std::string name, const std::string& text) {
-    Source source{std::move(name), nullptr};
-    try {
-        source.root = Json::parse(text);
-    } catch (const Json::parse_error& e) {
-        say(source.name + ": not valid JSON: " + e.what());
-        source.root = nullptr;
-        return source;
-    }
-    if (!source.root.is_object()) {
-        say(source.name + ": expected a JSON object, got " + source.root.type_name());
-        source.root = nullptr;
-    }
-    return source;
-}
-
-// ---- the names a profile may use ------------------------------------------------------------
-
-constexpr auto npos = std::string_view::npos;
-
-// The words of a line of kNames.
-std::vector<std::string_view> words(std::string_view line) {
-    std::vector<std::string_view> found;
-    for (size_t at = 0; at < line.size();) {
-        size_t blank = std::min(line.find(' ', at), line.size());
-        if (blank > at) found.push_back(line.substr(at, blank - at));
-        at = blank + 1;
-    }
-    return found;
-}
-
-// Whether `name` can be found in kNames: one that holds its marks is none of them.
-bool plain(const std::string& name) {
-    return !name.empty() && name.find_first_of(" \n=:[") == std::string::npos;
-}
-
-// The rest of the line of `names` that begins with `head`, or nothing.
-std::optional<std::string_view> lineAfter(std::string_view names, const std::string& head) {
-    size_t at = names.find(head);
-    if (at == npos) return std::nullopt;
-    at += head.size();
-    return names.substr(at, names.find('\n', at) - at);
-}
-
+constexpr auto npos = std::string::npos;
 const char kEmptyOrder[] = "\"in order\" takes a list of one answer or more";
+const char kAbsentWords[] = ": neither manager, all nor an accessor of IBrelManager";
 
 // Whether `word` names something the panel can take away.
 bool absentWord(const std::string& word) {
-    return word == "manager" || word == "all" ||
-           std::string_view(kAccessors).find(" " + word + " ") != npos;
+    if (word == "manager" || word == "all") return true;
+    for (unsigned i = 0; i < kService.count; ++i)
+        if (word == kService.interfaces[i].accessor) return true;
+    return false;
 }
 
 // Names each key of a profile that the service does not have, once, on its first reading; the
@@ -103,138 +75,102 @@ class NameCheck {
 public:
     NameCheck(std::string file, bool memory) : mFile(std::move(file)), mMemory(memory) {}
 
-    void profile(const Json& root) {
-        for (const auto& panel : root.items()) {
-            const std::string& iface = panel.key();
+    void profile(const Json::Value& root) {
+        for (const std::string& iface : root.getMemberNames()) {
+            const Json::Value& ops = root[iface];
             if (iface == "absent") {
-                absentWords(panel.value());
+                absentWords(ops);
                 continue;
             }
-            size_t at = plain(iface) ? mNames.find("\n" + iface + "\n") : npos;
-            if (at == npos) {
+            const adaptor::Interface* in = kService.find(iface);
+            if (!in) {
                 unknown(iface, "no such interface");
                 continue;
             }
-            // Its operations: the lines after its own that begin with a blank.
-            size_t begin = at + iface.size() + 1, end = begin;
-            while (end + 1 < mNames.size() && mNames[end + 1] == ' ')
-                end = mNames.find('\n', end + 1);
-            std::string_view ops = mNames.substr(begin, end + 1 - begin);
-            if (!panel.value().is_object()) continue;  // said when the panel looks there
-            for (const auto& op : panel.value().items())
-                operation(ops, iface + "." + op.key(), op.key(), op.value());
+            if (!ops.isObject()) continue;  // said when the panel looks there
+            for (const std::string& op : ops.getMemberNames())
+                operation(*in, iface + "." + op, op, ops[op]);
         }
     }
 
 private:
-    std::string_view mNames = kNames;
     std::string mFile;
     bool mMemory;
-
-    void absentWords(const Json& words) {
-        if (mMemory) return unknown("absent", "means nothing in the memory");
-        if (!words.is_array()) return unknown("absent", "expected a list of words");
-        for (const Json& word : words)
-            if (!word.is_string() || !absentWord(word.get<std::string>()))
-                unknown("absent", (word.is_string() ? word.get<std::string>() : word.dump()) + ": neither manager, all nor an accessor of IBrelManager");
-    }
 
     void unknown(const std::string& key, const std::string& what) {
         say(mFile + ": " + key + ": " + what);
     }
 
-    void operation(std::string_view ops, const std::string& key, const std::string& op,
-                   const Json& value) {
-        // "op" or "op(arguments)", the arguments as the trace writes them
-        size_t open = op.back() == ')' ? op.find('(') : npos;
-        std::string name = op.substr(0, open);
-        std::optional<std::string_view> line;
-        if (plain(name)) line = lineAfter(ops, "\n " + name + " ");
-        if (!line) return unknown(key, "no such operation");
-        std::vector<std::string_view> shapes = words(*line);  // in-arguments, result, "out:shape"
+    void absentWords(const Json::Value& words) {
+        if (mMemory) return unknown("absent", "means nothing in the memory");
+        if (!words.isArray()) return unknown("absent", "expected a list of words");
+        for (const Json::Value& word : words)
+            if (!word.isString() || !absentWord(word.asString()))
+                unknown("absent", (word.isString() ? word.asString() : adaptor::profileText(word, true)) +
+                                          kAbsentWords);
+    }
+
+    // "op" or "op(arguments)", the arguments as the trace writes them.
+    void operation(const adaptor::Interface& in, const std::string& key, const std::string& op,
+                   const Json::Value& value) {
+        size_t open = !op.empty() && op.back() == ')' ? op.find('(') : npos;
+        const Operation* found = kService.find(in, op.substr(0, open));
+        if (!found) return unknown(key, "no such operation");
         if (open != npos) {
-            std::string arguments = "[" + op.substr(open + 1, op.size() - open - 2) + "]";
-            Json list = Json::parse(arguments, nullptr, false);
-            if (list.is_discarded()) return unknown(key, "arguments not as the trace writes them");
-            std::string takes(shapes[0]);
-            takes += takes == "1" ? " argument" : " arguments";
-            if (list.size() != std::stoul(takes))
+            Json::Value list;
+            std::string error;
+            if (!adaptor::parse("[" + op.substr(open + 1, op.size() - open - 2) + "]", list, error))
+                return unknown(key, "arguments not as the trace writes them");
+            std::string takes = std::to_string(found->ins) + (found->ins == 1 ? " argument" : " arguments");
+            if (list.size() != found->ins)
                 return unknown(key, "takes " + takes + ", not " + std::to_string(list.size()));
         }
-        shapes.erase(shapes.begin());
-        answer(key, shapes, value);
+        answer(key, *found, value);
     }
 
-    // An answer of the operation whose result and out-parameters have these shapes.
-    void answer(const std::string& key, const std::vector<std::string_view>& shapes,
-                const Json& value) {
-        if (value.is_object() && value.contains("in order")) {
-            const Json& list = value["in order"];
-            if (!list.is_array() || list.empty()) return unknown(key, kEmptyOrder);
-            for (size_t i = 0; i < list.size(); ++i)
-                answer(key + "[" + std::to_string(i) + "]", shapes, list[i]);
+    // An answer of the operation: its result, or an object of its result and out-parameters.
+    void answer(const std::string& key, const Operation& op, const Json::Value& value) {
+        if (value.isObject() && value.isMember("in order")) {
+            const Json::Value& list = value["in order"];
+            if (!list.isArray() || list.empty()) return unknown(key, kEmptyOrder);
+            for (Json::ArrayIndex i = 0; i < list.size(); ++i)
+                answer(key + "[" + std::to_string(i) + "]", op, list[i]);
             return;
         }
-        if (shapes.size() == 1) return holds(key, shapes[0], value);
-        if (!value.is_object()) return;  // said when the operation is called
-        for (const auto& member : value.items()) {
-            const std::string& name = member.key();
-            std::string_view shape;
-            if (name == "result" && shapes[0] != "-") shape = shapes[0];
-            for (size_t i = 1; i < shapes.size() && shape.empty(); ++i)
-                if (shapes[i].substr(0, shapes[i].find(':')) == name)
-                    shape = shapes[i].substr(shapes[i].find(':') + 1);
-            if (shape.empty())
+        if (op.ins == op.count) {
+            if (op.result) holds(key, *op.result, value);
+            return;
+        }
+        if (!value.isObject()) return;  // said when the operation is called
+        for (const std::string& name : value.getMemberNames()) {
+            const Type* type = name == "result" ? op.result : nullptr;
+            for (unsigned i = 0; i < op.count && !type; ++i)
+                if (op.parameters[i].out && name == op.parameters[i].name) type = &op.parameters[i].type;
+            if (!type)
                 unknown(key + "." + name, "no such out-parameter");
             else
-                holds(key + "." + name, shape, member.value());
+                holds(key + "." + name, *type, value[name]);
         }
     }
 
-    // The names inside a value of that shape ("." none, "Type" a record, "[Type" records).
-    void holds(const std::string& key, std::string_view shape, const Json& value) {
-        if (shape == "." || shape == "-") return;
-        bool many = shape[0] == '[';
-        std::string type(many ? shape.substr(1) : shape);
-        std::vector<std::string_view> fields =
-            words(lineAfter(mNames, "\n=" + type + " ").value_or(""));
-        auto record = [&](const std::string& at, const Json& object) {
-            if (!object.is_object()) return;  // said when the operation is called
-            for (const auto& field : object.items())
-                if (std::find(fields.begin(), fields.end(), field.key()) == fields.end())
-                    unknown(at + "." + field.key(), "no such field of " + type);
-        };
-        if (!many)
-            record(key, value);
-        else if (value.is_array())
-            for (size_t i = 0; i < value.size(); ++i)
-                record(key + "[" + std::to_string(i) + "]", value[i]);
+    // The names inside a value of that type: the fields of its records.
+    void holds(const std::string& key, const Type& type, const Json::Value& value) {
+        if ((type.kind == Kind::Vector || type.kind == Kind::Array) && value.isArray()) {
+            for (Json::ArrayIndex i = 0; i < value.size(); ++i)
+                holds(key + "[" + std::to_string(i) + "]", *type.element, value[i]);
+        } else if (type.kind == Kind::Record && value.isObject()) {
+            for (const std::string& name : value.getMemberNames()) {
+                const adaptor::Field* field = nullptr;
+                for (unsigned i = 0; i < type.record->count && !field; ++i)
+                    if (name == type.record->fields[i].name) field = &type.record->fields[i];
+                if (!field)
+                    unknown(key + "." + name, std::string("no such field of ") + type.record->name);
+                else
+                    holds(key + "." + name, field->type, value[name]);
+            }
+        }
     }
 };
-
-}  // namespace
-
-void say(std::string line) {
-    line = "dumpbrel: simulated panel: " + line + "\n";
-    if (said().insert(line).second) fputs(line.c_str(), stderr);
-}
-
-void blame(const std::string& source) { gProblemSource = source; }
-
-Json readProfile(const char* path, bool memory, bool check) {
-    std::string text;
-    if (!readFile(path, text)) {
-        if (memory && errno == ENOENT) return Json::object();
-        say(std::string(path) + ": cannot read: " + strerror(errno));
-        return nullptr;
-    }
-    if (memory && text.empty()) return Json::object();
-    Source source = parse(path, text);
-    if (check && !source.root.is_null()) NameCheck(path, memory).profile(source.root);
-    return source.root;
-}
-
-namespace {
 
 const Source& fileSource(const char* path) {
     if (!gFile || gFile->name != path)
@@ -242,11 +178,16 @@ const Source& fileSource(const char* path) {
     return *gFile;
 }
 
-const Source& builtInSource(const char* iface, const char* defaults) {
+const Source& builtInSource(const std::string& iface) {
     auto found = gBuiltIn.find(iface);
-    if (found == gBuiltIn.end())
-        found = gBuiltIn.emplace(iface, parse("built-in profile", defaults)).first;
-    return found->second;
+    if (found != gBuiltIn.end()) return found->second;
+    Source source{"built-in profile", Json::Value()};
+    for (size_t i = 0; i < kBuiltInCount; ++i) {
+        std::string error;
+        if (iface == kBuiltIn[i][0] && !adaptor::parse(kBuiltIn[i][1], source.root, error))
+            say(source.name + ": " + iface + ": not valid JSON: " + error);
+    }
+    return gBuiltIn.emplace(iface, std::move(source)).first->second;
 }
 
 // Calls `each` with every word of BREL_SIM_ABSENT's `list`: split at commas, the blanks around
@@ -263,119 +204,133 @@ void eachAbsent(const char* list, F&& each) {
     }
 }
 
-}  // namespace
-
-bool Node::isObject() const { return mJson && json(mJson)->is_object(); }
-bool Node::isArray() const { return mJson && json(mJson)->is_array(); }
-bool Node::isString() const { return mJson && json(mJson)->is_string(); }
-bool Node::isBool() const { return mJson && json(mJson)->is_boolean(); }
-bool Node::isInteger() const { return mJson && json(mJson)->is_number_integer(); }
-bool Node::isNumber() const { return mJson && json(mJson)->is_number(); }
-const char* Node::typeName() const { return mJson ? json(mJson)->type_name() : "nothing"; }
-
-Node Node::member(const char* name) const {
-    if (!isObject()) return Node();
-    auto found = json(mJson)->find(name);
-    return found == json(mJson)->end() ? Node() : Node(&*found);
-}
-
-size_t Node::size() const { return isArray() ? json(mJson)->size() : 0; }
-
-Node Node::at(size_t i) const { return i < size() ? Node(&(*json(mJson))[i]) : Node(); }
-
-bool Node::getSigned(long long& out) const {
-    const Json& j = *json(mJson);
-    if (j.is_number_unsigned()) {
-        auto v = j.get<unsigned long long>();
-        if (v > static_cast<unsigned long long>(std::numeric_limits<long long>::max()))
-            return false;
-        out = static_cast<long long>(v);
-        return true;
-    }
-    out = j.get<long long>();
-    return true;
-}
-
-bool Node::getUnsigned(unsigned long long& out) const {
-    const Json& j = *json(mJson);
-    if (j.is_number_unsigned()) {
-        out = j.get<unsigned long long>();
-        return true;
-    }
-    long long v = j.get<long long>();
-    if (v < 0) return false;
-    out = static_cast<unsigned long long>(v);
-    return true;
-}
-
-double Node::getNumber() const { return json(mJson)->get<double>(); }
-bool Node::getBool() const { return json(mJson)->get<bool>(); }
-std::string Node::getString() const { return json(mJson)->get<std::string>(); }
-
-Node Panel::lookup(const char* iface, const char* op, const std::string& line,
-                   const char* defaults, bool memory, std::string& key) {
-    const char* path = envOrNull("BREL_SIM_PANEL");
-    const Json* root = memory ? recalled() : nullptr;
-    if (!memory) {
-        const Source& source = path ? fileSource(path) : builtInSource(iface, defaults);
-        gProblemSource = source.name;
-        root = &source.root;
-    }
-    if (!root || root->is_null()) return Node();
-    Node panel(root);
-    if (memory || path) {
-        panel = panel.member(iface);
-        if (panel.exists() && !panel.isObject()) {
-            problem(iface, std::string("expected an object of operations, got ") + panel.typeName());
-            return Node();
-        }
-    }
-    key = line.substr(line.find('.') + 1);  // op(arguments)
-    Node found = panel.member(key.c_str());
-    if (!found.exists()) found = panel.member((key = op).c_str());
-    key = std::string(iface) + "." + key;
-    Node order = found.member("in order");
-    if (!order.exists()) return found;
-    // The n-th call of the key in this run takes the n-th answer; the calls after the last, the last.
-    size_t nth = gCalls[key]++;
-    if (order.size() == 0) {
-        problem(key, kEmptyOrder);
-        return Node();
-    }
-    nth = std::min(nth, order.size() - 1);
-    key += "[" + std::to_string(nth) + "]";
-    return order.at(nth);
-}
-
-void Panel::trace(const std::string& line) {
-    const char* path = envOrNull("BREL_SIM_TRACE");
-    if (!path) return;
-    if (!appendLine(path, line)) say(std::string("trace ") + path + ": " + strerror(errno));
-}
-
-bool Panel::absent(const char* word) {
+// Whether BREL_SIM_ABSENT, as read at the first question, or the profile in force names `word`.
+// A word of the list that names nothing the panel can take away gets its line then.
+bool absent(const char* word) {
     if (!gAbsentRead) {
         gAbsent = getenv("BREL_SIM_ABSENT");
         gAbsentRead = true;
-        // A word that names nothing the panel can take away gets its line.
         eachAbsent(gAbsent, [](std::string_view each) {
             std::string text(each);
-            if (!absentWord(text))
-                say("BREL_SIM_ABSENT: " + text +
-                    ": neither manager, all nor an accessor of IBrelManager");
+            if (!absentWord(text)) say("BREL_SIM_ABSENT: " + text + kAbsentWords);
         });
     }
     bool found = false;
     eachAbsent(gAbsent, [&](std::string_view each) { found = found || each == word; });
     const char* path = envOrNull("BREL_SIM_PANEL");
-    const Json* profile = path && !found ? &fileSource(path).root : nullptr;
-    if (profile && profile->is_object() && profile->contains("absent") && (*profile)["absent"].is_array())
-        for (const Json& each : (*profile)["absent"]) found = found || each == word;
+    const Json::Value* profile = path && !found ? &fileSource(path).root : nullptr;
+    if (profile && profile->isObject() && (*profile)["absent"].isArray())
+        for (const Json::Value& each : (*profile)["absent"]) found = found || each == word;
     return found;
 }
 
-void Panel::problem(const std::string& key, const std::string& what) {
-    say(gProblemSource + ": " + key + ": " + what);
+class Simulated : public adaptor::Backend {
+public:
+    bool lacks(const char* accessor) override {
+        if (strcmp(accessor, "manager") == 0) return absent(accessor);
+        return absent("all") || absent(accessor);
+    }
+
+    // The memory first; a value there that cannot be read leaves the answer to the profile.
+    void answer(Call& call, const Take& take) override {
+        std::string where;
+        for (bool memory : {true, false}) {
+            const Json::Value* value = lookup(call, memory, where);
+            if (value && (take(*value, where) || !memory)) return;
+        }
+    }
+
+    void problem(const std::string& where, const std::string& what) override {
+        say(where + ": " + what);
+    }
+
+    void answered(const Call& call) override {
+        // A negative integer answer is an error code: the panel refused the value.
+        bool refused = call.op.result && call.op.result->kind == Kind::Integer &&
+                       call.result.type() == Json::intValue && call.result.asInt64() < 0;
+        if (call.op.getter >= 0 && call.op.ins > 0 && !refused) remember(call);
+        const char* path = envOrNull("BREL_SIM_TRACE");
+        if (path && !adaptor::appendLine(path, call.line()))
+            say(std::string("trace ") + path + ": " + strerror(errno));
+    }
+
+private:
+    // The value for `call` in the memory, or in the profile in force; `where` becomes its file
+    // and key, for problem lines.
+    static const Json::Value* lookup(const Call& call, bool memory, std::string& where) {
+        const char* path = envOrNull("BREL_SIM_PANEL");
+        const std::string iface = call.iface.name;
+        std::string source;
+        const Json::Value* panel = memory ? recalled(source) : nullptr;
+        if (!memory) {
+            const Source& found = path ? fileSource(path) : builtInSource(iface);
+            source = found.name;
+            panel = &found.root;
+        }
+        if (!panel || panel->isNull()) return nullptr;
+        if (memory || path) {
+            if (!panel->isMember(iface)) return nullptr;
+            panel = &(*panel)[iface];
+            if (!panel->isObject()) {
+                say(source + ": " + iface + ": expected an object of operations, got " +
+                    adaptor::typeName(*panel));
+                return nullptr;
+            }
+        }
+        std::string key = call.op.name + ("(" + call.argumentsText(0, call.op.ins)) + ")";
+        if (!panel->isMember(key)) key = call.op.name;
+        if (!panel->isMember(key)) return nullptr;
+        const Json::Value* found = &(*panel)[key];
+        key = iface + "." + key;
+        if (found->isObject() && found->isMember("in order")) {
+            // The n-th call of the key in this run takes the n-th answer; the calls after the
+            // last, the last.
+            const Json::Value& order = (*found)["in order"];
+            size_t nth = gCalls[key]++;
+            if (!order.isArray() || order.empty()) {
+                say(source + ": " + key + ": " + kEmptyOrder);
+                return nullptr;
+            }
+            nth = std::min<size_t>(nth, order.size() - 1);
+            key += "[" + std::to_string(nth) + "]";
+            found = &order[static_cast<Json::ArrayIndex>(nth)];
+        }
+        where = source + ": " + key;
+        return found;
+    }
+};
+
+Simulated& backend() {
+    static Simulated panel;
+    return panel;
+}
+
+}  // namespace
+
+void say(std::string line) {
+    line = "dumpbrel: simulated panel: " + line + "\n";
+    if (said().insert(line).second) fputs(line.c_str(), stderr);
+}
+
+Json::Value readProfile(const char* path, bool memory, bool check) {
+    std::string text, error;
+    if (!adaptor::readFile(path, text)) {
+        if (memory && errno == ENOENT) return Json::Value(Json::objectValue);
+        say(std::string(path) + ": cannot read: " + strerror(errno));
+        return Json::Value();
+    }
+    if (memory && text.empty()) return Json::Value(Json::objectValue);
+    Json::Value root;
+    if (!adaptor::parse(text, root, error)) {
+        say(std::string(path) + ": not valid JSON: " + error);
+        return Json::Value();
+    }
+    if (!root.isObject()) {
+        say(std::string(path) + ": expected a JSON object, got " + adaptor::typeName(root));
+        return Json::Value();
+    }
+    if (check) NameCheck(path, memory).profile(root);
+    return root;
 }
 
 void Panel::reset() {
@@ -388,3 +343,8 @@ void Panel::reset() {
 }
 
 }  // namespace sim
+
+android::IBrelManager* android::BrelCreator::create() {
+    if (sim::backend().lacks("manager")) return nullptr;
+    return adaptor::manager(sim::backend(), nullptr);
+}

@@ -30,27 +30,38 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+#include <json/json.h>
 
 #include "Fixtures.h"
 
 namespace dumpbrel_test {
 namespace {
 
-using Json = nlohmann::json;
+
+Json::Value parseJson(std::istream& in) {
+    Json::Value root;
+    Json::CharReaderBuilder builder;
+    std::string errors;
+    if (!Json::parseFromStream(builder, in, &root, &errors)) ADD_FAILURE() << errors;
+    return root;
+}
+
+std::string text(const Json::Value& value, const char* key, std::string otherwise = "") {
+    return value.isMember(key) ? value[key].asString() : otherwise;
+}
 
 struct Case {
     int index;
-    Json row;
+    Json::Value row;
 };
 
-void PrintTo(const Case& c, std::ostream* os) { *os << c.row.value("name", ""); }
+void PrintTo(const Case& c, std::ostream* os) { *os << text(c.row, "name"); }
 
 std::vector<Case> loadCases() {
     std::ifstream in(E2E_DIR "/cases.json");
-    Json all = Json::parse(in);  // a broken file fails the whole run, loudly
+    Json::Value all = parseJson(in);  // a broken file fails the whole run, loudly
     std::vector<Case> cases;
-    for (const Json& row : all) cases.push_back({static_cast<int>(cases.size()), row});
+    for (const Json::Value& row : all) cases.push_back({static_cast<int>(cases.size()), row});
     return cases;
 }
 
@@ -63,39 +74,38 @@ const std::string& listing(const std::string& module) {
     return found->second;
 }
 
-std::string expected(const Json& spec, const std::string& module) {
-    if (spec.is_string()) return spec.get<std::string>();
-    std::string text;
-    for (const Json& line : spec) {
+std::string expected(const Json::Value& spec, const std::string& module) {
+    if (spec.isString()) return spec.asString();
+    std::string lines;
+    for (const Json::Value& line : spec) {
         if (line == "@options" || line == "@usage")
-            text += listing(line == "@usage" ? "" : module);
+            lines += listing(line == "@usage" ? "" : module);
         else
-            text += line.get<std::string>() + "\n";
+            lines += line.asString() + "\n";
     }
-    return text;
+    return lines;
 }
 
 class E2E : public testing::TestWithParam<Case> {};
 
-void check(const Json& row, const std::string& state) {
+void check(const Json::Value& row, const std::string& state) {
     Start start;
-    start.uid = row.value("uid", -1);
+    start.uid = row.get("uid", -1).asInt();
     if (start.uid >= 0 && !canRunAs(start.uid))
         GTEST_SKIP() << "cannot run as uid " << start.uid << " here: "
                      << (getuid() == 0 ? "root of a user namespace that maps no other uid, and no new"
                                        : "not root, and no")
                      << " user namespace to enter";
-    start.args = row.value("args", std::vector<std::string>());
-    if (row.contains("panel"))
-        start.panel = row["panel"].is_string() ? row["panel"].get<std::string>()
-                                               : row["panel"].dump();
-    start.env = row.value("env", std::map<std::string, std::string>());
-    for (auto& [name, value] : start.env)
-        if (value == "@state") value = state;
+    for (const Json::Value& word : row["args"]) start.args.push_back(word.asString());
+    if (row.isMember("panel"))
+        start.panel = row["panel"].isString() ? row["panel"].asString()
+                                              : Json::writeString(Json::StreamWriterBuilder(), row["panel"]);
+    for (const std::string& name : row["env"].getMemberNames())
+        start.env[name] = row["env"][name] == "@state" ? state : row["env"][name].asString();
     if (!state.empty()) start.env["BREL_SIM_STATE"] = state;
-    if (row.contains("state") && !row["state"].is_null())
-        std::ofstream(state) << row["state"].get<std::string>();
-    if (row.contains("stdin")) start.input = row["stdin"].get<std::string>();
+    if (row.isMember("state") && !row["state"].isNull())
+        std::ofstream(state) << row["state"].asString();
+    if (row.isMember("stdin")) start.input = row["stdin"].asString();
     Result run = runBinary(start);
     // The panel's problem lines name the profile's file, in a fresh directory each run.
     run.err = std::regex_replace(run.err, std::regex("[^\\s]*/(panel|state)\\.json"), "@$1");
@@ -105,15 +115,15 @@ void check(const Json& row, const std::string& state) {
     const std::pair<const char*, const std::string*> texts[] = {
         {"out", &run.out}, {"err", &run.err}, {"calls", &run.calls}};
     for (const auto& [key, actual] : texts) {
-        if (row.contains(key) && row[key].is_null()) continue;  // not checked
-        EXPECT_EQ(*actual, expected(row.value(key, Json::array()), module)) << "(" << key << ")";
+        if (row.isMember(key) && row[key].isNull()) continue;  // not checked
+        EXPECT_EQ(*actual, expected(row.get(key, Json::Value(Json::arrayValue)), module)) << "(" << key << ")";
     }
-    EXPECT_EQ(run.status, row.value("status", 0));
-    if (row.contains("file")) {
+    EXPECT_EQ(run.status, row.get("status", 0).asInt());
+    if (row.isMember("file")) {
         std::ifstream in(state);
-        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), row["file"]);
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), row["file"].asString());
     }
-    if (row.contains("next")) check(row["next"], state);
+    if (row.isMember("next")) check(row["next"], state);
 }
 
 struct StateDir {
@@ -124,7 +134,7 @@ struct StateDir {
 
 TEST_P(E2E, Case) {
     StateDir at;
-    check(GetParam().row, GetParam().row.contains("state") ? at.state : "");
+    check(GetParam().row, GetParam().row.isMember("state") ? at.state : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, E2E, testing::ValuesIn(loadCases()),
@@ -145,7 +155,8 @@ protected:
         return start;
     }
     size_t stored(const std::string& file) {
-        return Json::parse(std::ifstream(file)).at("IAudioCtrl").size();
+        std::ifstream in(file);
+        return parseJson(in)["IAudioCtrl"].size();
     }
 };
 

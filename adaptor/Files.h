@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace sim __attribute__((visibility("hidden"))) {
+namespace adaptor __attribute__((visibility("hidden"))) {
 
 // The whole file into `text`; false, with errno set, when it cannot be read to its end.
 bool readFile(const char* path, std::string& text);
@@ -20,7 +20,7 @@ int lockBeside(const std::string& path);
 bool replaceFile(const std::string& path, const std::string& text);
 
 // `line` and a newline appended to the file at `path`, made when missing, at once; false, with
-// errno set, when it cannot be opened.
+// errno set, when it cannot be opened or written whole.
 bool appendLine(const char* path, const std::string& line);
 
-}  // namespace sim
+}  // namespace adaptor

@@ -1,4 +1,4 @@
-#include "Files.h"
+#include "adaptor/Files.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 
-namespace sim {
+namespace adaptor {
 
 namespace {
 
@@ -83,9 +83,11 @@ bool replaceFile(const std::string& link, const std::string& text) {
 bool appendLine(const char* path, const std::string& line) {
     int fd = open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
     if (fd < 0) return false;
-    writeAll(fd, line + "\n");
+    bool written = writeAll(fd, line + "\n");
+    int error = errno;
     close(fd);
-    return true;
+    errno = error;
+    return written;
 }
 
-}  // namespace sim
+}  // namespace adaptor
