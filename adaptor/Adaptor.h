@@ -11,7 +11,6 @@
 //                           gpio_no, out(is_input));
 //     }
 
-#include <functional>
 #include <string>
 #include <type_traits>
 
@@ -49,7 +48,13 @@ class Backend {
 public:
     // Offered an answer and where it stands ("panel.json: IAudioCtrl.getEQMode"), says whether
     // it could be taken.
-    using Take = std::function<bool(const Json::Value& value, const std::string& where)>;
+    struct Take {
+        bool (*take)(void* adaptor, const Json::Value& value, const std::string& where);
+        void* adaptor;
+        bool operator()(const Json::Value& value, const std::string& where) const {
+            return take(adaptor, value, where);
+        }
+    };
 
     virtual ~Backend() = default;
     // With no library behind: whether the service lacks `accessor` ("manager", "getPQCtrl").
@@ -76,11 +81,16 @@ inline void tellBackend(const std::string& where, const std::string& what, void*
 template <typename R>
 using Slot = std::conditional_t<std::is_void_v<R>, bool, R>;
 
+// What an interface's adaptor holds beside the interface itself, which it derives from too. The
+// library's control behind it is set in the adaptor's constructor body, where nothing it calls can
+// see the object half built: the interface's own table of operations is then never used and the
+// compiler need not keep it, nor the loader bind it.
 template <typename I>
-class Adaptor : public I {
+class Adaptor {
 protected:
-    Adaptor(Backend& backend, const Interface& shape, I* next)
-        : mBackend(backend), mShape(shape), mNext(next) {}
+    Adaptor(Backend& backend, const Interface& shape) : mBackend(backend), mShape(shape) {}
+
+    void follow(I* next) { mNext = next; }
 
     template <typename R, typename Pass, typename... A>
     R adapt(unsigned op, Pass&& pass, const A&... args) {
@@ -93,12 +103,17 @@ protected:
             else
                 result = pass(*mNext);
         } else {
-            mBackend.answer(call, [&](const Json::Value& value, const std::string& where) {
+            auto take = [&](const Json::Value& value, const std::string& where) {
                 result = Slot<R>{};
                 Reader reader{where, &tellBackend, &mBackend};
                 settle<R>(reader, call.op, value, result, args...);
                 return !reader.failed;
-            });
+            };
+            using Take = decltype(take);
+            mBackend.answer(call, {[](void* self, const Json::Value& value, const std::string& where) {
+                                       return (*static_cast<Take*>(self))(value, where);
+                                   },
+                                   &take});
         }
         if constexpr (!std::is_void_v<R>) call.result = toJson(result);
         call.answer = answerOf(call, args...);

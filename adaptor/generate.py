@@ -807,10 +807,13 @@ def write_adaptors(service, include_dir):
     out += [f"using namespace {ns};" for ns in service.namespaces]
     out += ["using adaptor::out;", "using adaptor::inArray;", "using adaptor::outArray;", ""]
     for k, iface in enumerate(service.interfaces):
-        out.append(f"class {iface.name}Adaptor final : public adaptor::Adaptor<{iface.cpp}> {{")
+        out.append(f"class {iface.name}Adaptor final : public {iface.cpp}, "
+                   f"adaptor::Adaptor<{iface.cpp}> {{")
         out.append("public:")
         out.append(f"    {iface.name}Adaptor(adaptor::Backend& backend, {iface.cpp}* next)")
-        out.append(f"        : Adaptor(backend, adaptor::kService.interfaces[{k}], next) {{}}")
+        out.append(f"        : Adaptor(backend, adaptor::kService.interfaces[{k}]) {{")
+        out.append("        follow(next);")
+        out.append("    }")
         for i, op in enumerate(iface.operations):
             declared = ", ".join(p.declared for p in op.params)
             const = " const" if op.const else ""
@@ -833,8 +836,9 @@ def write_adaptors(service, include_dir):
         out.append("};\n")
     out.append(f"class Manager final : public {service.manager} {{")
     out.append("public:")
-    out.append(f"    Manager(adaptor::Backend& backend, {service.manager}* next)")
-    out.append("        : mBackend(backend), mNext(next) {}")
+    out.append(f"    Manager(adaptor::Backend& backend, {service.manager}* next) : mBackend(backend) {{")
+    out.append("        mNext = next;")
+    out.append("    }")
     for name, iface in service.accessors:
         k = service.interfaces.index(iface)
         out.append(f"    {iface.cpp}* {name}() override {{")

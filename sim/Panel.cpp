@@ -6,6 +6,7 @@
 
 #include "Panel.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <vector>
 
 #include "Profiles.h"
 #include "adaptor/Files.h"
@@ -46,7 +48,8 @@ struct Source {
 
 std::unique_ptr<Source> gFile;                         // BREL_SIM_PANEL, once read
 std::map<std::string, Source, std::less<>> gBuiltIn;  // built-in parts, by interface
-const char* gAbsent = nullptr;                         // BREL_SIM_ABSENT, once read
+std::vector<std::string> gAbsent;  // BREL_SIM_ABSENT's words, once read
+std::string gAbsentProfile;        // the profile whose "absent" adds to them
 bool gAbsentRead = false;
 std::map<std::string, size_t> gCalls;  // calls so far of each key answered in order
 
@@ -204,24 +207,28 @@ void eachAbsent(const char* list, F&& each) {
     }
 }
 
-// Whether BREL_SIM_ABSENT, as read at the first question, or the profile in force names `word`.
-// A word of the list that names nothing the panel can take away gets its line then.
+// Whether BREL_SIM_ABSENT, or else the profile in force, names `word`, as they are at the first
+// question of a run. A word of the variable that names nothing the panel can take away gets its
+// line then.
 bool absent(const char* word) {
     if (!gAbsentRead) {
-        gAbsent = getenv("BREL_SIM_ABSENT");
         gAbsentRead = true;
-        eachAbsent(gAbsent, [](std::string_view each) {
+        gAbsent.clear();
+        eachAbsent(getenv("BREL_SIM_ABSENT"), [](std::string_view each) {
             std::string text(each);
             if (!absentWord(text)) say("BREL_SIM_ABSENT: " + text + kAbsentWords);
+            gAbsent.push_back(std::move(text));
         });
+        const char* path = envOrNull("BREL_SIM_PANEL");
+        gAbsentProfile = path ? path : "";
     }
-    bool found = false;
-    eachAbsent(gAbsent, [&](std::string_view each) { found = found || each == word; });
-    const char* path = envOrNull("BREL_SIM_PANEL");
-    const Json::Value* profile = path && !found ? &fileSource(path).root : nullptr;
-    if (profile && profile->isObject() && (*profile)["absent"].isArray())
-        for (const Json::Value& each : (*profile)["absent"]) found = found || each == word;
-    return found;
+    if (std::find(gAbsent.begin(), gAbsent.end(), word) != gAbsent.end()) return true;
+    if (gAbsentProfile.empty()) return false;
+    const Json::Value& profile = fileSource(gAbsentProfile.c_str()).root;
+    if (profile.isObject() && profile["absent"].isArray())
+        for (const Json::Value& each : profile["absent"])
+            if (each == word) return true;
+    return false;
 }
 
 class Simulated : public adaptor::Backend {
