@@ -646,13 +646,11 @@ class Shaper:
         managers = [s for s in classes if s.functions and all(
             f.virtual and f.result.pointer and not f.params and
             self.unqualified(f.result.base) in self.classes for f in s.functions)]
-        if len(managers) != 1:
-            raise Unreadable("no manager: a class whose operations each hand out an interface"
-                             if not managers else
-                             f"{managers[1].path}:{managers[1].line}: a second manager, beside "
+        if len(managers) > 1:
+            raise Unreadable(f"{managers[1].path}:{managers[1].line}: a second manager, beside "
                              f"{managers[0].name}")
-        manager = managers[0]
-        handed = {self.unqualified(f.result.base) for f in manager.functions}
+        manager = managers[0] if managers else None
+        handed = {self.unqualified(f.result.base) for f in manager.functions} if manager else set()
         interfaces = []
         for scope in classes:
             if scope is manager or (scope.name not in handed and
@@ -668,6 +666,8 @@ class Shaper:
             pair(ops)
             interfaces.append(Interface(scope.name, scope.namespace + scope.name,
                                         os.path.basename(scope.path), ops))
+        if manager is None:
+            raise Unreadable("no manager: a class whose operations each hand out an interface")
         by_name = {i.name: i for i in interfaces}
         accessors = []
         for f in manager.functions:

@@ -49,9 +49,8 @@ struct Record : testing::Test {
     }
 };
 
-// Every row in one session of the prompt, over a memory, one interface absent, then a value set
-// and read several times (replayed without the memory: in order). A key held before stays.
-TEST_F(Record, EveryRowAnswersTheSameRecordedAndReplayed) {
+// Every row in one session of the prompt.
+Start everyRow() {
     Start start;
     start.input = "";
     for (const Module& module : registry())
@@ -59,11 +58,28 @@ TEST_F(Record, EveryRowAnswersTheSameRecordedAndReplayed) {
             *start.input += "\n" + module.name;
             for (const std::string& word : rowWords(row, kSampleArgument)) *start.input += " " + word;
         }
+    return start;
+}
+
+// Every row over a memory, one interface absent, then a value set and read several times
+// (replayed without the memory: in order). A key held before stays.
+TEST_F(Record, EveryRowAnswersTheSameRecordedAndReplayed) {
+    Start start = everyRow();
     *start.input += "\nAudioCtrl --setEQMode 3 --getEQMode -d 1,9 -c 1\nAudioCtrl --setEQMode 5 --getEQMode\n";
     start.env = {{"BREL_SIM_ABSENT", "getPQCtrl"}, {"BREL_SIM_STATE", at + "/state.json"}};
     std::ofstream(file) << R"-({"IAudioCtrl": {"getAudioGain(2)": 7}})-";
     recordAndReplay(start);
     EXPECT_NE(text(file).find("\"getAudioGain(2)\": 7"), std::string::npos);
+}
+
+// The built-in profile is sim/panel.json: named as the profile, it answers every row the same.
+TEST_F(Record, TheBuiltInProfileIsTheOneInTheTree) {
+    Start start = everyRow();
+    Result builtIn = runBinary(start);
+    start.env["BREL_SIM_PANEL"] = E2E_DIR "/../../sim/panel.json";
+    Result named = runBinary(start);
+    EXPECT_EQ(named.out + named.err, builtIn.out + builtIn.err);
+    EXPECT_EQ(named.calls, builtIn.calls);
 }
 
 // A file it cannot use: one line naming it, the file as it was, the run as without the recorder.

@@ -1,0 +1,6 @@
+#pragma once
+namespace android {
+/* a comment the vendor
+   never closed
+class IOpen;
+}
