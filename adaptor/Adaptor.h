@@ -81,6 +81,105 @@ inline void tellBackend(const std::string& where, const std::string& what, void*
 template <typename R>
 using Slot = std::conditional_t<std::is_void_v<R>, bool, R>;
 
+// How a call reaches the library's operation behind the adaptor: `pass` is the adaptor's call of
+// it, `next` the library's control.
+template <typename R>
+using Through = Slot<R> (*)(void* pass, void* next);
+
+namespace typed {
+
+template <typename T>
+void addIn(Json::Value& arguments, const T& argument) {
+    if constexpr (!IsOut<T>::value) arguments.append(toJson(argument));
+}
+
+template <typename T>
+void fillOut(Reader& reader, const Parameter& p, const Json::Value& value, const T& arg) {
+    if constexpr (IsOut<T>::value) {
+        if (!value.isMember(p.name)) return;
+        Reader at = reader.at(std::string(".") + p.name);
+        if constexpr (IsOutArray<T>::value)
+            readElements(at, value[p.name], arg.data, arg.size);
+        else
+            read(at, value[p.name], arg.ref);
+        reader.failed = reader.failed || at.failed;
+    }
+}
+
+// The answer of a profile: the result alone, or an object of "result" and one member per
+// out-parameter, named as declared.
+template <typename R, typename... A>
+void settle(Reader& reader, const Operation& op, const Json::Value& value, Slot<R>& result,
+            const A&... args) {
+    if constexpr (!(IsOut<A>::value || ...)) {
+        if constexpr (!std::is_void_v<R>) read(reader, value, result);
+    } else {
+        if (!value.isObject())
+            return reader.problem(
+                    std::string("expected an object of the result and out-parameters, got ") +
+                    typeName(value));
+        unsigned i = 0;
+        auto fill = [&](const auto& arg) { fillOut(reader, op.parameters[i++], value, arg); };
+        (fill(args), ...);
+        if constexpr (!std::is_void_v<R>) {
+            if (value.isMember("result")) {
+                reader.where += ".result";
+                read(reader, value["result"], result);
+            }
+        }
+    }
+}
+
+template <typename... A>
+Json::Value answerOf(const Call& call, const A&... args) {
+    if constexpr (!(IsOut<A>::value || ...)) {
+        return call.result;
+    } else {
+        Json::Value object(Json::objectValue);
+        if (call.op.result) object["result"] = call.result;
+        unsigned i = 0;
+        auto put = [&](const auto& arg) {
+            if constexpr (IsOut<std::decay_t<decltype(arg)>>::value)
+                object[call.op.parameters[i].name] = toJson(arg);
+            ++i;
+        };
+        (put(args), ...);
+        return object;
+    }
+}
+
+// One call, of any operation of this signature: through to the library behind, or answered by
+// the backend; then handed to the backend as answered. Made once per signature, never copied into
+// each operation.
+template <typename R, typename... A>
+R call(Backend& backend, const Interface& shape, unsigned op, void* next, Through<R> through,
+       void* pass, const A&... args) {
+    Call call(shape, shape.operations[op]);
+    (addIn(call.arguments, args), ...);
+    Slot<R> result{};
+    if (next != nullptr) {
+        result = through(pass, next);
+    } else {
+        auto take = [&](const Json::Value& value, const std::string& where) {
+            result = Slot<R>{};
+            Reader reader{where, &tellBackend, &backend};
+            settle<R>(reader, call.op, value, result, args...);
+            return !reader.failed;
+        };
+        using Take = decltype(take);
+        backend.answer(call, {[](void* self, const Json::Value& value, const std::string& where) {
+                                  return (*static_cast<Take*>(self))(value, where);
+                              },
+                              &take});
+    }
+    if constexpr (!std::is_void_v<R>) call.result = toJson(result);
+    call.answer = answerOf(call, args...);
+    backend.answered(call);
+    if constexpr (!std::is_void_v<R>) return result;
+}
+
+}  // namespace typed
+
 // What an interface's adaptor holds beside the interface itself, which it derives from too. The
 // library's control behind it is set in the adaptor's constructor body, where nothing it calls can
 // see the object half built: the interface's own table of operations is then never used and the
@@ -92,99 +191,24 @@ protected:
 
     void follow(I* next) { mNext = next; }
 
+    // Operation `op` of the interface: `pass` calls it on the library's control. All but that
+    // call is the same for every operation of one signature, and made once for them.
     template <typename R, typename Pass, typename... A>
     R adapt(unsigned op, Pass&& pass, const A&... args) {
-        Call call(mShape, mShape.operations[op]);
-        (addIn(call.arguments, args), ...);
-        Slot<R> result{};
-        if (mNext != nullptr) {
+        Through<R> through = [](void* p, void* next) -> Slot<R> {
+            Pass& of = *static_cast<Pass*>(p);
             if constexpr (std::is_void_v<R>)
-                pass(*mNext);
+                return of(*static_cast<I*>(next)), Slot<R>{};
             else
-                result = pass(*mNext);
-        } else {
-            auto take = [&](const Json::Value& value, const std::string& where) {
-                result = Slot<R>{};
-                Reader reader{where, &tellBackend, &mBackend};
-                settle<R>(reader, call.op, value, result, args...);
-                return !reader.failed;
-            };
-            using Take = decltype(take);
-            mBackend.answer(call, {[](void* self, const Json::Value& value, const std::string& where) {
-                                       return (*static_cast<Take*>(self))(value, where);
-                                   },
-                                   &take});
-        }
-        if constexpr (!std::is_void_v<R>) call.result = toJson(result);
-        call.answer = answerOf(call, args...);
-        mBackend.answered(call);
-        if constexpr (!std::is_void_v<R>) return result;
+                return of(*static_cast<I*>(next));
+        };
+        return typed::call<R>(mBackend, mShape, op, mNext.get(), through, &pass, args...);
     }
 
 private:
     Backend& mBackend;
     const Interface& mShape;
     android::sp<I> mNext;
-
-    template <typename T>
-    static void addIn(Json::Value& arguments, const T& argument) {
-        if constexpr (!IsOut<T>::value) arguments.append(toJson(argument));
-    }
-
-    // The answer of a profile: the result alone, or an object of "result" and one member per
-    // out-parameter, named as declared.
-    template <typename R, typename... A>
-    static void settle(Reader& reader, const Operation& op, const Json::Value& value,
-                       Slot<R>& result, const A&... args) {
-        if constexpr (!(IsOut<A>::value || ...)) {
-            if constexpr (!std::is_void_v<R>) read(reader, value, result);
-        } else {
-            if (!value.isObject())
-                return reader.problem(
-                        std::string("expected an object of the result and out-parameters, got ") +
-                        typeName(value));
-            unsigned i = 0;
-            auto fill = [&](const auto& arg) { fillOut(reader, op.parameters[i++], value, arg); };
-            (fill(args), ...);
-            if constexpr (!std::is_void_v<R>) {
-                if (value.isMember("result")) {
-                    reader.where += ".result";
-                    read(reader, value["result"], result);
-                }
-            }
-        }
-    }
-
-    template <typename T>
-    static void fillOut(Reader& reader, const Parameter& p, const Json::Value& value, const T& arg) {
-        if constexpr (IsOut<T>::value) {
-            if (!value.isMember(p.name)) return;
-            Reader at = reader.at(std::string(".") + p.name);
-            if constexpr (IsOutArray<T>::value)
-                readElements(at, value[p.name], arg.data, arg.size);
-            else
-                read(at, value[p.name], arg.ref);
-            reader.failed = reader.failed || at.failed;
-        }
-    }
-
-    template <typename... A>
-    static Json::Value answerOf(const Call& call, const A&... args) {
-        if constexpr (!(IsOut<A>::value || ...)) {
-            return call.result;
-        } else {
-            Json::Value object(Json::objectValue);
-            if (call.op.result) object["result"] = call.result;
-            unsigned i = 0;
-            auto put = [&](const auto& arg) {
-                if constexpr (IsOut<std::decay_t<decltype(arg)>>::value)
-                    object[call.op.parameters[i].name] = toJson(arg);
-                ++i;
-            };
-            (put(args), ...);
-            return object;
-        }
-    }
 };
 
 // The control an accessor hands out: an adaptor of type A over the library's own control, or,

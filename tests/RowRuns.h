@@ -1,8 +1,8 @@
 #pragma once
 
-// Every row of the registry run by its long name through the binary's entry: the walk from which
-// the listing of what rows print (tests/e2e/rows.golden) and record/snapshot.txt are written; the
-// reference of every option (docs/options.md) starts from the same registry.
+// Every row of the registry run by its long name through the binary's entry: the walk the row
+// rules check and from which record/snapshot.txt and the reference of every option
+// (docs/options.md) are written.
 
 #include <string>
 #include <vector>
@@ -36,9 +36,6 @@ struct RowRun {
     const Module& module;
     const Row& row;
     Result plain, abc;
-    std::string out;    // plain.out with the sub-service's option list written "@options\n"
-    std::string calls;  // plain.calls without the answers, and without the interface's name
-                        // where it is the sub-service's own (I<sub-service>)
 };
 const std::vector<RowRun>& rowRuns();
 
