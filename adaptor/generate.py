@@ -83,8 +83,8 @@ def tokens(path, text):
 @dataclass
 class CType:
     """A C++ type as declared: `const` and the base (with its template arguments), then `*` or `&`."""
-    base: str                      # "int", "std::vector<std::string>", "String16"
-    args: List["CType"] = field(default_factory=list)
+    base: str                      # "int", "unsigned int", "String16", "std::vector"
+    args: List["CType"] = field(default_factory=list)   # template arguments
     const: bool = False
     pointer: bool = False
     reference: bool = False
@@ -248,16 +248,13 @@ class Parser:
         if self.peek() in ("class", "struct"):
             self.take()
         name = self.take()
-        underlying = None
-        if self.peek() == ":":
+        if self.peek() == ":":          # its integer type: the value crosses as an integer
             self.take()
-            underlying = self.ctype()
+            self.ctype()
         if self.peek() == "{":
             self.skip_balanced()
         self.take(";")
-        scope = Scope("enum", name, namespace, self.path, line)
-        scope.fields = [Declarator(underlying or CType("int"), "", None, line)]
-        self.scopes.append(scope)
+        self.scopes.append(Scope("enum", name, namespace, self.path, line))
 
     def record_or_class(self, namespace):
         line = self.line()
