@@ -57,7 +57,7 @@ private:
     std::string mError;
 
     bool fail(const char* what) {
-        if (mError.empty()) mError = what;
+        if (mError.empty()) mError = next() == '/' ? "a comment" : what;
         return false;
     }
     bool more() const { return mAt < mText.size(); }
@@ -84,7 +84,6 @@ private:
             case 't': return word("true");
             case 'f': return word("false");
             case 'n': return word("null");
-            case '/': return fail("a comment");
             default:
                 if (next() == '-' || (next() >= '0' && next() <= '9')) return number();
                 if (mText.substr(mAt, 3) == "\xEF\xBB\xBF") return fail("a byte order mark");

@@ -71,6 +71,23 @@ void useProfile(Profile profile) {
         unsetenv("BREL_SIM_PANEL");
     unsetenv("BREL_SIM_ABSENT");
     unsetenv("BREL_SIM_TRACE");
+    unsetenv("BREL_SIM_STATE");
+    sim::Panel::reset();
+}
+
+void useProfileText(const std::string& text) {
+    const std::string profile = gScratch + "/profile.json", memory = gScratch + "/memory.json";
+    for (const std::string& file : {profile, memory}) {
+        int fd = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+            report("dumpbrel fuzz: cannot write %s", file.c_str());
+            abort();
+        }
+        close(fd);
+    }
+    useProfile(Profile::kBuiltIn);
+    setenv("BREL_SIM_PANEL", profile.c_str(), 1);
+    setenv("BREL_SIM_STATE", memory.c_str(), 1);
     sim::Panel::reset();
 }
 

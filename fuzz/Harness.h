@@ -1,6 +1,6 @@
 #pragma once
 
-// What both fuzz targets share: the panel they run against, the tool's entry run in-process,
+// What the fuzz targets share: the panel they run against, the tool's entry run in-process,
 // and the checks that every input must pass besides the sanitizers' own.
 
 #include <cstddef>
@@ -23,6 +23,9 @@ void setUp();
 
 // Makes the next dispatch read `profile` afresh, with no interface absent and no trace.
 void useProfile(Profile profile);
+
+// The same with `text` as the profile in force and, a copy of it, as the panel's memory.
+void useProfileText(const std::string& text);
 
 // Runs the binary's entry on "dumpbrel" followed by `words`, exactly as main() would, and stops
 // the process with a report when the run leaves the tool in a state no run may leave it in:

@@ -3,6 +3,8 @@
 //                     with a separate argument; every short spec, each with one good value
 //   <dir>/keystrokes: typed commands, the escape sequences of the line editor, Tab, Backspace
 //                     and Delete in runs, history walks, completion of every name and option
+//   <dir>/profiles:   the project's own profiles: the built-in one (sim/panel.json), and every
+//                     profile and memory of the hand-written cases (tests/e2e/cases.json)
 //
 //     fuzz_seeds <dir>
 
@@ -11,10 +13,14 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include <json/value.h>
+
 #include "Registry.h"
+#include "adaptor/Json.h"
 #include "tests/RunAs.h"
 
 namespace fs = std::filesystem;
@@ -126,6 +132,25 @@ void writeKeystrokes(Writer& out, const std::vector<dumpbrel_fuzz::Module>& modu
     }
 }
 
+std::string fileText(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void writeProfiles(Writer& out, const fs::path& source) {
+    out.add(fileText(source / "sim/panel.json"));
+    Json::Value cases;
+    std::string error;
+    if (!adaptor::parse(fileText(source / "tests/e2e/cases.json"), cases, error)) return;
+    for (const Json::Value& row : cases)
+        for (const Json::Value* at = &row; at->isObject(); at = &(*at)["next"]) {
+            const Json::Value& panel = (*at)["panel"];
+            if (panel.isString()) out.add(panel.asString());
+            if (panel.isObject()) out.add(adaptor::profileText(panel));
+            if ((*at)["state"].isString()) out.add((*at)["state"].asString());
+        }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -139,10 +164,12 @@ int main(int argc, char** argv) {
     fs::path dir = argv[1];
     fs::remove_all(dir / "arguments");
     fs::remove_all(dir / "keystrokes");
-    Writer arguments(dir / "arguments"), keystrokes(dir / "keystrokes");
+    fs::remove_all(dir / "profiles");
+    Writer arguments(dir / "arguments"), keystrokes(dir / "keystrokes"), profiles(dir / "profiles");
     writeArguments(arguments, modules);
     writeKeystrokes(keystrokes, modules);
-    printf("seeds: %zu sub-services, %zu argument seeds, %zu keystroke seeds\n", modules.size(),
-           arguments.count(), keystrokes.count());
+    writeProfiles(profiles, DUMPBREL_SOURCE_DIR);
+    printf("seeds: %zu sub-services, %zu argument seeds, %zu keystroke seeds, %zu profiles\n",
+           modules.size(), arguments.count(), keystrokes.count(), profiles.count());
     return 0;
 }

@@ -1,7 +1,7 @@
 // The library that is preloaded, libbrel_record.so: in front of the vendor's BrelCreator::create().
-// Without BREL_RECORD it hands on the library's manager untouched, and the program pays only for
-// loading this small object; with it, it loads the recorder itself (libbrel_record_core.so, beside
-// this library), which wraps the manager.
+// Without BREL_RECORD or BREL_RECORD_TRACE it hands on the library's manager untouched, and the
+// program pays only for loading this small object; with either, it loads the recorder itself
+// (libbrel_record_core.so, beside this library), which wraps the manager.
 
 #include <dlfcn.h>
 
@@ -18,6 +18,11 @@ using Wrap = android::IBrelManager* (*)(android::IBrelManager*);
 
 void say(const char* what) {
     fprintf(stderr, "dumpbrel: recorder: %s\n", what);
+}
+
+bool named(const char* variable) {
+    const char* value = getenv(variable);
+    return value != nullptr && *value != '\0';
 }
 
 // The recorder's entry, loaded once; null, after its line, when it cannot be loaded.
@@ -46,8 +51,7 @@ android::IBrelManager* android::BrelCreator::create() {
         return nullptr;
     }
     IBrelManager* manager = next();
-    const char* record = getenv("BREL_RECORD");
-    if (record == nullptr || *record == '\0') return manager;
+    if (!named("BREL_RECORD") && !named("BREL_RECORD_TRACE")) return manager;
     Wrap wrap = recorder();
     return wrap ? wrap(manager) : manager;
 }

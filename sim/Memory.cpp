@@ -29,14 +29,6 @@ Memory& memory() {
     return state;
 }
 
-// Whether two names are one file.
-bool sameFile(const char* a, const char* b) {
-    struct stat first, second;
-    if (stat(a, &first) == 0 && stat(b, &second) == 0)
-        return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
-    return strcmp(a, b) == 0;
-}
-
 // Whether a store may replace the file that holds `root`: not when it could not be used, nor
 // when a member is no object of operations. That is the user's text, which a store would lose;
 // it is named, and the rest of the file is read.
@@ -44,7 +36,7 @@ bool writable(const std::string& path, const Json::Value& root) {
     bool whole = root.isObject();
     if (whole)
         for (const std::string& name : root.getMemberNames()) {
-            if (root[name].isObject() || name == "absent") continue;  // named, kept
+            if (root[name].isObject() || name == "absent" || name == "recorded") continue;  // named, kept
             whole = false;
             say(path + ": " + name + ": expected an object of operations, got " +
                 adaptor::typeName(root[name]));
@@ -61,7 +53,7 @@ const Json::Value* recalled(std::string& path) {
     if (state.path != file) {
         state.path = file;
         const char* profile = getenv("BREL_SIM_PANEL");
-        if (profile && *profile && sameFile(file, profile)) {
+        if (profile && *profile && adaptor::sameFile(file, profile)) {
             say(state.path + ": named by both BREL_SIM_STATE and BREL_SIM_PANEL: no memory this run");
             state.root = Json::Value();
         } else {
@@ -86,13 +78,15 @@ void remember(const adaptor::Call& call) {
     if (last > 0) key += "(" + call.argumentsText(0, last) + ")";
 
     Memory& state = memory();
-    int lock = adaptor::lockBeside(state.path);
-    if (lock < 0) return say(state.path + ": cannot store: " + strerror(errno));
+    std::string why = adaptor::unusable(state.path, true);
+    int lock = -1;
+    if (why.empty()) why = adaptor::lockBeside(state.path, lock);
+    if (!why.empty()) return say(state.path + ": cannot store: " + why);
     Json::Value root = readProfile(state.path.c_str(), true, false);  // its names were checked
     if (writable(state.path, root)) {
         root[call.iface.name][key] = call.arguments[last];
-        if (!adaptor::replaceFile(state.path, adaptor::profileText(root) + "\n"))
-            say(state.path + ": cannot store: " + strerror(errno));
+        why = adaptor::replaceFile(state.path, adaptor::profileText(root) + "\n");
+        if (!why.empty()) say(state.path + ": cannot store: " + why);
     }
     state.root = std::move(root);  // what the file holds now, others' stores included
     close(lock);

@@ -85,6 +85,11 @@ public:
                 absentWords(ops);
                 continue;
             }
+            if (iface == "recorded") {
+                if (mMemory) unknown(iface, "means nothing in the memory");
+                else if (!ops.isBool()) unknown(iface, std::string("expected true or false, got ") + adaptor::typeName(ops));
+                continue;
+            }
             const adaptor::Interface* in = kService.find(iface);
             if (!in) {
                 unknown(iface, "no such interface");
@@ -238,13 +243,17 @@ public:
         return absent("all") || absent(accessor);
     }
 
-    // The memory first; a value there that cannot be read leaves the answer to the profile.
+    // The memory first; a value there that cannot be read leaves the answer to the profile. A
+    // recording that lacks the call says so once the call is answered.
     void answer(Call& call, const Take& take) override {
         std::string where;
+        mLacking.clear();
         for (bool memory : {true, false}) {
             const Json::Value* value = lookup(call, memory, where);
             if (value && (take(*value, where) || !memory)) return;
         }
+        const char* path = envOrNull("BREL_SIM_PANEL");
+        if (path && fileSource(path).root["recorded"] == true) mLacking = path;
     }
 
     void problem(const std::string& where, const std::string& what) override {
@@ -256,12 +265,17 @@ public:
         bool refused = call.op.result && call.op.result->kind == Kind::Integer &&
                        call.result.type() == Json::intValue && call.result.asInt64() < 0;
         if (call.op.getter >= 0 && call.op.ins > 0 && !refused) remember(call);
+        if (!mLacking.empty() && !call.answer.isNull())
+            say(mLacking + ": " + call.iface.name + "." + call.key() + ": not in the recording, answered " +
+                adaptor::profileText(call.answer, true));
         const char* path = envOrNull("BREL_SIM_TRACE");
-        if (path && !adaptor::appendLine(path, call.line()))
-            say(std::string("trace ") + path + ": " + strerror(errno));
+        std::string why = path ? adaptor::appendLine(path, call.line()) : "";
+        if (!why.empty()) say(std::string("trace ") + path + ": " + why);
     }
 
 private:
+    std::string mLacking;  // the recording that lacks the call being answered
+
     // The value for `call` in the memory, or in the profile in force; `where` becomes its file
     // and key, for problem lines.
     static const Json::Value* lookup(const Call& call, bool memory, std::string& where) {
@@ -321,9 +335,10 @@ void say(std::string line) {
 
 Json::Value readProfile(const char* path, bool memory, bool check) {
     std::string text, error;
-    if (!adaptor::readFile(path, text)) {
-        if (memory && errno == ENOENT) return Json::Value(Json::objectValue);
-        say(std::string(path) + ": cannot read: " + strerror(errno));
+    const std::string why = adaptor::readFile(path, text);
+    if (memory && why == adaptor::kMissing) return Json::Value(Json::objectValue);
+    if (!why.empty()) {
+        say(std::string(path) + ": " + why);
         return Json::Value();
     }
     if (memory && text.empty()) return Json::Value(Json::objectValue);
