@@ -239,8 +239,8 @@ void profile(std::string& text, const Json::Value& value, const std::string& ind
     text += object ? "{" : "[";
     const Json::Value::Members names = object ? value.getMemberNames() : Json::Value::Members();
     for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
-        text += compact ? (i ? "," : "") : (i ? ",\n" : "\n") + inner;
-        if (object) text += jsonString(names[i]) + (compact ? ":" : ": ");
+        text += compact ? (i ? ", " : "") : (i ? ",\n" : "\n") + inner;
+        if (object) text += jsonString(names[i]) + ": ";
         profile(text, object ? value[names[i]] : value[i], inner, compact);
     }
     text += compact ? "" : "\n" + indent;

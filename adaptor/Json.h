@@ -28,7 +28,7 @@ bool parse(std::string_view text, Json::Value& root, std::string& error);
 
 // A value as a profile's file holds it: two blanks a level, "name": value, members in the order
 // of their names, a float that JSON has no number for spelled "inf", "-inf" or "nan". With
-// `compact`, on one line without blanks.
+// `compact`, on one line: {"name": value, "other": [1, 2]}.
 std::string profileText(const Json::Value& value, bool compact = false);
 
 // A value as the trace writes it, by its type at the interface: floats as C's %g, records'

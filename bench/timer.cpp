@@ -1,7 +1,8 @@
-// Wall time of a command: runs it N times (output to /dev/null) and prints the median in
-// microseconds. The command's own environment is the caller's.
+// Wall time of a command: runs it N times (output to /dev/null, input from FILE when given, opened
+// anew for each run) and prints the median in microseconds. The command's own environment is the
+// caller's.
 //
-//     bench_timer 25 ./dumpbrel AnionCtrl -s 1
+//     bench_timer 25 [-i FILE] ./dumpbrel AnionCtrl -s 1
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -12,13 +13,14 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <vector>
 
 extern char** environ;
 
 int main(int argc, char** argv) {
     if (argc < 3) {
-        std::fprintf(stderr, "usage: %s runs command [arguments...]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s runs [-i input] command [arguments...]\n", argv[0]);
         return 2;
     }
     int runs = std::atoi(argv[1]);
@@ -26,6 +28,10 @@ int main(int argc, char** argv) {
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
+    if (argc > 4 && std::string(argv[2]) == "-i") {
+        posix_spawn_file_actions_addopen(&actions, 0, argv[3], O_RDONLY, 0);
+        argv += 2;
+    }
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
 

@@ -7,7 +7,7 @@
 #include <iostream>
 
 #include "ListCommand.h"
-#include "service/BrelCreator.h"
+#include "Report.h"
 #include "shell/Prompt.h"
 
 namespace android {
@@ -26,14 +26,15 @@ void resetOptionScanner() {
     optind = 1;
 }
 
-DumpBrel::DumpBrel() : mBrelManager(BrelCreator::create()) {
+DumpBrel::DumpBrel() : mBrelManager(report::createManager()) {
     if (mBrelManager == nullptr) std::cout << "\033[31m IBrelManager get error! finish \033[0m \r\n";
+    report::step(nullptr, nullptr, OK);
 }
 
 DumpBrel::~DumpBrel() {}
 
 sp<IBrelManager> DumpBrel::getBrelManager() {
-    if (mBrelManager == nullptr) mBrelManager = BrelCreator::create();
+    if (mBrelManager == nullptr) mBrelManager = report::createManager();
     return mBrelManager;
 }
 
@@ -83,19 +84,18 @@ Status DumpBrel::parseArgs(const Arg& arg) {
         return OK;
     }
     std::cout << arg.argv[0] << ": unrecognized option `" << arg.argv[1] << "`\n";
+    report::step(nullptr, nullptr, USAGE);
     return USAGE;
 }
 
 Status DumpBrel::main(const Arg& arg) {
     Status status = parseArgs(arg);
-    if (status != OK) {
-        usage();
-        return status;
-    }
-    ListCommand* command = selectCommand(mSelectedCommand);
+    ListCommand* command = status == OK ? selectCommand(mSelectedCommand) : nullptr;
     if (command == nullptr) {
         usage();
-        return USAGE;
+        status = status == OK ? USAGE : status;
+        report::step(nullptr, nullptr, status);
+        return status;
     }
     return command->main(arg);
 }
@@ -121,9 +121,10 @@ int dumpbrelMain(int argc, char** argv) {
 
     registerModules(dumpBrel);
 
-    if (argc < 2) return runPrompt(dumpBrel);
+    if (argc < 2) return report::exitStatus(runPrompt(dumpBrel));
     dumpBrel.main(Arg{argc, argv});
-    return 0;
+    report::step(nullptr, nullptr, OK);
+    return report::exitStatus(0);
 }
 
 }  // namespace dumpbrel

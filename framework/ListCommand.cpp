@@ -5,6 +5,8 @@
 #include <iostream>
 #include <memory>
 
+#include "Report.h"
+
 namespace android {
 namespace dumpbrel {
 
@@ -73,6 +75,7 @@ void ListCommand::reportAbsent() const {
 Status ListCommand::main(const Arg& arg) {
     Status status = parseArgs(arg);
     if (status != OK) usage();
+    report::step(nullptr, nullptr, status);
     return status;
 }
 
@@ -97,17 +100,21 @@ Status ListCommand::parseArgs(const Arg& arg) {
         }
         if (row == nullptr) {
             std::cout << "unknown option: " << arg.argv[optind - 1] << '\n';
+            report::step(nullptr, nullptr, USAGE);
             return USAGE;
         }
 
         mRunning = row;
-        Status status = row->handler(this, optarg);
+        const char* argument = optarg;
+        Status status = row->handler(this, argument);
         mRunning = nullptr;
+        report::step(std::string(row->longOption).c_str(), argument, status);
         if (status != OK) return status;
     }
 
     if (optind < arg.argc) {
         std::cout << "unknown option: " << arg.argv[optind] << '\n';
+        report::step(nullptr, nullptr, USAGE);
         return USAGE;
     }
     return OK;

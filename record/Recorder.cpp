@@ -1,10 +1,8 @@
-// The recorder, libbrel_record_core.so: the generated adaptor over the vendor's library, with a
-// backend that writes what the library answered. With BREL_RECORD_TRACE each call's trace line
-// is appended to that file; with BREL_RECORD each answer goes into that file as a profile of the
-// simulated panel before the call returns: under the lock of "<file>.lock" the file is read
-// again, the answer merged in, and the whole written beside it and renamed over it, so runs
-// recording at once lose nothing and a killed one leaves a whole file. A key belongs to the run
-// that first wrote it; a later run that the panel answered otherwise is named.
+// The recording (BREL_RECORD): each answer goes into the file as a profile of the simulated panel
+// before the call returns. Under the lock of "<file>.lock" the file is read again, the answer
+// merged in, and the whole written beside it and renamed over it, so runs recording at once lose
+// nothing and a killed one leaves a whole file. A key belongs to the run that first wrote it; a
+// later run that the panel answered otherwise is named.
 
 #include <unistd.h>
 
@@ -15,24 +13,12 @@
 #include <set>
 #include <vector>
 
-#include "adaptor/Adaptor.h"
+#include "Recorder.h"
 #include "adaptor/Files.h"
 
 namespace record {
 
 namespace {
-
-const char* envOrNull(const char* name) {
-    const char* value = getenv(name);
-    return value && *value ? value : nullptr;
-}
-
-// One line on standard error, once per run.
-void say(const std::string& what) {
-    static std::set<std::string> said;
-    std::string line = "dumpbrel: recorder: " + what + "\n";
-    if (said.insert(line).second) fputs(line.c_str(), stderr);
-}
 
 struct Run {
     std::string path;       // BREL_RECORD
@@ -180,60 +166,39 @@ void compare(Run& state, const std::string& at, const Json::Value& recorded,
         ", the panel answered " + adaptor::profileText(answers.back(), true) + " (kept the recording's)");
 }
 
-class Recorder : public adaptor::Backend {
-public:
-    void lacked(const char* accessor) override { absent(accessor); }
-
-    void answered(const adaptor::Call& call) override {
-        if (const char* trace = envOrNull("BREL_RECORD_TRACE")) {
-            std::string why = adaptor::appendLine(trace, call.line());
-            if (!why.empty()) say(std::string("trace ") + trace + ": " + why);
-        }
-        if (call.answer.isNull()) return;
-        const std::string key = call.key(), at = call.iface.name + ("." + key);
-        Run& state = run();
-        std::vector<Json::Value>& answers = state.answers[at];
-        answers.push_back(call.answer);
-        update([&](Json::Value& root) {
-            const Json::Value& recorded = root[call.iface.name][key];
-            if (!recorded.isNull() && !state.owned.count(at)) {
-                compare(state, at, recorded, answers);
-                return false;
-            }
-            state.owned.insert(at);
-            bool same = true;
-            for (const Json::Value& each : answers) same = same && each == answers.front();
-            Json::Value value = answers.front();
-            if (!same) {
-                value = Json::Value(Json::objectValue);
-                Json::Value& list = value["in order"] = Json::Value(Json::arrayValue);
-                for (const Json::Value& each : answers) list.append(each);
-            }
-            const Json::Value absence = root.get("absent", Json::Value());
-            present(root, call.iface.accessor);
-            if (recorded == value && absence == root.get("absent", Json::Value())) return false;
-            root[call.iface.name][key] = value;
-            return true;
-        });
-    }
-};
-
-Recorder& recorder() {
-    static Recorder backend;
-    return backend;
-}
-
 }  // namespace
 
-}  // namespace record
-
-// The recorder's entry for the preloaded front (record/Front.cpp): the library's manager wrapped,
-// or null written absent.
-extern "C" __attribute__((visibility("default"))) android::IBrelManager* brel_record_wrap(
-        android::IBrelManager* real) {
-    if (real == nullptr) {
-        record::absent("manager");
-        return nullptr;
-    }
-    return adaptor::manager(record::recorder(), real);
+void recordAbsent(const char* word) {
+    absent(word);
 }
+
+void recordAnswer(const adaptor::Call& call) {
+    if (call.answer.isNull()) return;
+    const std::string key = call.key(), at = call.iface.name + ("." + key);
+    Run& state = run();
+    std::vector<Json::Value>& answers = state.answers[at];
+    answers.push_back(call.answer);
+    update([&](Json::Value& root) {
+        const Json::Value& recorded = root[call.iface.name][key];
+        if (!recorded.isNull() && !state.owned.count(at)) {
+            compare(state, at, recorded, answers);
+            return false;
+        }
+        state.owned.insert(at);
+        bool same = true;
+        for (const Json::Value& each : answers) same = same && each == answers.front();
+        Json::Value value = answers.front();
+        if (!same) {
+            value = Json::Value(Json::objectValue);
+            Json::Value& list = value["in order"] = Json::Value(Json::arrayValue);
+            for (const Json::Value& each : answers) list.append(each);
+        }
+        const Json::Value absence = root.get("absent", Json::Value());
+        present(root, call.iface.accessor);
+        if (recorded == value && absence == root.get("absent", Json::Value())) return false;
+        root[call.iface.name][key] = value;
+        return true;
+    });
+}
+
+}  // namespace record

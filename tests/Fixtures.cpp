@@ -14,6 +14,7 @@
 
 #include "RunAs.h"
 #include "framework/DumpBrel.h"
+#include "framework/Report.h"
 #include "sim/Panel.h"
 
 namespace dumpbrel_test {
@@ -80,7 +81,6 @@ Result runChild(const Start& start, Run body) {
         setenv("BREL_SIM_TRACE", trace.c_str(), 1);
         if (start.panel) setenv("BREL_SIM_PANEL", panel.c_str(), 1);
         for (const auto& [name, value] : start.env) setenv(name.c_str(), value.c_str(), 1);
-        if (const char* library = getenv("LD_PRELOAD")) preload(library);
         redirect(0, input, O_RDONLY);
         redirect(1, out, O_WRONLY | O_CREAT | O_TRUNC);
         redirect(2, err, O_WRONLY | O_CREAT | O_TRUNC);
@@ -105,7 +105,8 @@ Result runBinary(const Start& start) {
 
 Result runEntry(const Start& start) {
     return runChild(start, [&] {
-        sim::Panel::reset();  // the panel reads the environment set above afresh
+        sim::Panel::reset();  // the panel and the report read the environment set above afresh
+        android::dumpbrel::report::reset();
         std::vector<std::string> words = start.args;
         words.insert(words.begin(), "dumpbrel");
         std::vector<char*> argv;
@@ -116,16 +117,6 @@ Result runEntry(const Start& start) {
         fflush(nullptr);
         _exit(status);
     });
-}
-
-void preload(const std::string& library) {
-    unsetenv("LD_PRELOAD");
-    const char* asan = getenv("ASAN_OPTIONS");
-    setenv("ASAN_OPTIONS", (asan ? asan + std::string(":") : "").append("verify_asan_link_order=0").c_str(), 1);
-    if (*DUMPBREL_EMULATOR)
-        setenv("QEMU_SET_ENV", ("LD_PRELOAD=" + library).c_str(), 1);
-    else
-        setenv("LD_PRELOAD", library.c_str(), 1);
 }
 
 void execBinary(const std::vector<std::string>& args) {

@@ -47,9 +47,6 @@ inline Result runEntry(std::vector<std::string> args) {
 // Whether a child of this process can run as `uid` (root, or a user namespace).
 bool canRunAs(int uid);
 
-// Preloads `library` (uninstrumented, before ASan's runtime) into the binary started next.
-void preload(const std::string& library);
-
 // Replaces the process with the binary (through the build's emulator, if any), word 0
 // "dumpbrel", on the built-in panel with no trace; as root, through a user namespace when not.
 [[noreturn]] void execBinary(const std::vector<std::string>& args);

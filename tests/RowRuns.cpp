@@ -24,12 +24,12 @@ std::vector<std::string> rowWords(const Row& row, const std::string& value) {
 
 namespace {
 
-Result runRow(const Module& module, const Row& row, const std::string& value,
-              std::optional<std::string> panel) {
+Result runRow(const Module& module, const Row& row, std::map<std::string, std::string> env) {
     Start start;
-    start.args = rowWords(row, value);
+    start.args = rowWords(row, "abc");
     start.args.insert(start.args.begin(), module.name);
-    start.panel = panel;
+    start.panel = "{}";
+    start.env = std::move(env);
     return runEntry(start);
 }
 
@@ -40,7 +40,8 @@ const std::vector<RowRun>& rowRuns() {
         std::vector<RowRun> all;
         for (const Module& module : registry())
             for (const Row& row : module.rows) {
-                all.push_back({module, row, runRow(module, row, "abc", "{}")});
+                all.push_back({module, row, runRow(module, row, {}),
+                               runRow(module, row, {{"BREL_OUTPUT", "json"}})});
             }
         return all;
     }();

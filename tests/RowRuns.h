@@ -31,11 +31,12 @@ inline std::string argumentSuffix(int hasArg) {
 // The argument a row is run with where it takes one.
 inline const char* const kSampleArgument = "1,2,3,4";
 
-// A row run with "abc" where it takes an argument, on a neutral panel.
+// A row run with "abc" where it takes an argument, on a neutral panel, as text and as JSON lines
+// (BREL_OUTPUT=json).
 struct RowRun {
     const Module& module;
     const Row& row;
-    Result abc;
+    Result abc, json;
 };
 const std::vector<RowRun>& rowRuns();
 

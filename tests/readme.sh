@@ -1,16 +1,13 @@
 #!/usr/bin/env bash
 # Each README block starting with "$ " runs in one bash in a scratch directory, dumpbrel and
-# build/'s probe and recorder being this build's: its commands must print (stderr joined) the
-# lines under them.
+# build/'s probe being this build's: its commands must print (stderr joined) the lines under them.
 readme=$1 bin=$(realpath "$2")
 # None of the user's own BREL_* settings reaches the examples: they run as in a fresh shell.
 unset "${!BREL_@}"
 shift 2
 emu=("$@") ns=()
 [ "$(id -u)" = 0 ] || ns=(unshare --user --map-root-user)
-dumpbrel() {  # under qemu a preload is the emulated program's
-    [ -z "${LD_PRELOAD:-}" ] || local -x ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0
-    if [ -n "${emu[*]}" ] && [ -n "${LD_PRELOAD:-}" ]; then local -x QEMU_SET_ENV=LD_PRELOAD=$LD_PRELOAD; unset LD_PRELOAD; fi
+dumpbrel() {
     "${ns[@]}" "${emu[@]}" "$bin" "$@"
 }
 d=$(mktemp -d)
@@ -22,7 +19,6 @@ awk -v d="$d" 'b && index($0, ind) != 1 { b = 0 }
 n=0 f=0
 for b in $(ls "$d" | sort -n); do
     mkdir -p "$d/run/build/tests" && cd "$d/run" &&
-        ln -s "$(dirname "$(realpath "$RECORD_LIB")")" build/record &&
         printf '#!/bin/sh\nexec %s "$@"\n' "${emu[*]} $(realpath "$LOG_PROBE")" >build/tests/log_probe &&
         chmod +x build/tests/log_probe && grep '^\$ ' "../$b" | while IFS= read -r line; do
         echo "$line"

@@ -171,7 +171,7 @@ protected:
     Start stores(int first) {  // setAudioGain(i, 1) for 25 i from first
         Start start;
         start.args = {"AudioCtrl"};
-        start.env = {{"BREL_SIM_STATE", state}, {"LD_PRELOAD", RECORD_LIB}, {"BREL_RECORD", recording}};
+        start.env = {{"BREL_SIM_STATE", state}, {"BREL_RECORD", recording}};
         for (int i = first; i < first + 25; ++i)
             start.args.insert(start.args.end(), {"-d", std::to_string(i) + ",1"});
         return start;
@@ -189,8 +189,7 @@ TEST_F(Memory, EightRunsAtOnceLoseNothing) {
     std::vector<pid_t> runs;
     for (int run = 0; run < 8; ++run) {
         Start start = stores(25 * run);
-        if (run % 2) start.env = {{"BREL_SIM_STATE", state + ".link"}, {"LD_PRELOAD", RECORD_LIB},
-                                  {"BREL_RECORD", recording + ".link"}};
+        if (run % 2) start.env = {{"BREL_SIM_STATE", state + ".link"}, {"BREL_RECORD", recording + ".link"}};
         if ((runs.emplace_back(fork())) == 0) _exit(runBinary(start).status);
     }
     for (pid_t pid : runs) waitpid(pid, nullptr, 0);
@@ -212,7 +211,6 @@ TEST_F(Memory, AKilledRunLeavesAWholeFile) {
         pid_t pid = fork();
         if (pid == 0) {
             for (const auto& [name, value] : stores(0).env) setenv(name.c_str(), value.c_str(), 1);
-            preload(RECORD_LIB);
             freopen("/dev/null", "w", stdout);
             execBinary(stores(25 * kill).args);
         }

@@ -3,11 +3,13 @@
 // the reference of every option, docs/options.md, written from the same runs.
 
 #include <algorithm>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <json/json.h>
 
 #include "RowRuns.h"
 
@@ -54,6 +56,66 @@ TEST(Rows, ARefusedArgumentIsOneLineNoCallAndTheOptionList) {
         }
     }
     EXPECT_GT(refused, 30);
+}
+
+// A trace line, "IName.op(arguments) -> answer", as JSON values: arguments and answer, where the
+// trace's text of them is JSON.
+Json::Value traced(const std::string& line) {
+    Json::Value call(Json::objectValue);
+    size_t open = line.find('('), arrow = line.rfind(") -> ");
+    size_t close = arrow == std::string::npos ? line.size() - 1 : arrow;
+    Json::CharReaderBuilder builder;
+    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    auto json = [&](const std::string& text) {
+        Json::Value value;
+        return reader->parse(text.data(), text.data() + text.size(), &value, nullptr) ? value : Json::Value(text);
+    };
+    call["call"] = line.substr(0, open);
+    call["arguments"] = json("[" + line.substr(open + 1, close - open - 1) + "]");
+    if (arrow != std::string::npos) call["answer"] = json(line.substr(arrow + 5));
+    return call;
+}
+
+// With BREL_OUTPUT=json every row's run is its JSON lines: their outputs joined are the plain
+// run's output, their calls its trace, standard error is the same, and the exit status is 1 where
+// a step's status is not 0.
+TEST(Rows, AsJsonLinesEveryRunIsItsPlainOutputAndTrace) {
+    Json::CharReaderBuilder builder;
+    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    for (const RowRun& run : rowRuns()) {
+        const std::string name = run.module.name + " --" + run.row.longName;
+        std::vector<std::string> trace;
+        std::istringstream traceLines(run.abc.calls);
+        for (std::string line; std::getline(traceLines, line);) trace.push_back(line);
+        std::string joined;
+        size_t calls = 0;
+        bool failed = false, rowSeen = false;
+        std::istringstream lines(run.json.out);
+        for (std::string line; std::getline(lines, line);) {
+            Json::Value step;
+            ASSERT_TRUE(reader->parse(line.data(), line.data() + line.size(), &step, nullptr)) << line;
+            EXPECT_EQ(step.getMemberNames(),
+                      std::vector<std::string>({"argument", "calls", "option", "output", "status"}));
+            joined += step["output"].asString();
+            failed = failed || step["status"] != 0;
+            rowSeen = rowSeen || step["option"] == run.row.longName;
+            for (const Json::Value& call : step["calls"]) {
+                Json::Value got = traced(calls < trace.size() ? trace[calls] : "()"), expected(Json::objectValue);
+                expected["call"] = call["interface"].asString() + "." + call["operation"].asString();
+                expected["arguments"] = call["arguments"];
+                const Json::Value& answer = call["answer"];  // with out-parameters, the trace has its result
+                if (got.isMember("answer"))
+                    expected["answer"] = answer.isObject() && answer.isMember("result") ? answer["result"] : answer;
+                EXPECT_EQ(got, expected) << name;
+                ++calls;
+            }
+        }
+        EXPECT_TRUE(rowSeen) << name;
+        EXPECT_EQ(joined, run.abc.out) << name;
+        EXPECT_EQ(run.json.err, run.abc.err) << name;
+        EXPECT_EQ(calls, trace.size()) << name;
+        EXPECT_EQ(run.json.status, failed ? 1 : 0) << name;
+    }
 }
 
 TEST(Rows, TheUsageNamesEverySubServiceInTableOrder) {
