@@ -31,13 +31,16 @@ inline std::string argumentSuffix(int hasArg) {
 // The argument a row is run with where it takes one.
 inline const char* const kSampleArgument = "1,2,3,4";
 
-// A row run with "abc" where it takes an argument, on a neutral panel, as text and as JSON lines
-// (BREL_OUTPUT=json).
+// A row run with "abc" where it takes an argument, on a neutral panel.
 struct RowRun {
     const Module& module;
     const Row& row;
-    Result abc, json;
+    Result abc;
 };
 const std::vector<RowRun>& rowRuns();
+
+// The same runs of each sub-service's rows as one batch of JSON lines (BREL_OUTPUT=json), a line
+// for each row in the order of rowRuns(): a Result for each sub-service, in the registry's order.
+const std::vector<Result>& jsonBatches();
 
 }  // namespace dumpbrel_test

@@ -76,45 +76,58 @@ Json::Value traced(const std::string& line) {
     return call;
 }
 
-// With BREL_OUTPUT=json every row's run is its JSON lines: their outputs joined are the plain
-// run's output, their calls its trace, standard error is the same, and the exit status is 1 where
-// a step's status is not 0.
+// With BREL_OUTPUT=json every row's run is its JSON lines (all rows of a sub-service in one batch):
+// their outputs joined are the plain run's output, their calls its trace, standard error is the
+// same, and the exit status is 1 where a step's status is not 0.
 TEST(Rows, AsJsonLinesEveryRunIsItsPlainOutputAndTrace) {
     Json::CharReaderBuilder builder;
     std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    for (const RowRun& run : rowRuns()) {
-        const std::string name = run.module.name + " --" + run.row.longName;
-        std::vector<std::string> trace;
-        std::istringstream traceLines(run.abc.calls);
-        for (std::string line; std::getline(traceLines, line);) trace.push_back(line);
-        std::string joined;
-        size_t calls = 0;
-        bool failed = false, rowSeen = false;
-        std::istringstream lines(run.json.out);
+    auto runs = rowRuns().begin();
+    for (const Result& batch : jsonBatches()) {
+        const Module& module = runs->module;
+        std::vector<Json::Value> steps;
+        std::istringstream lines(batch.out);
         for (std::string line; std::getline(lines, line);) {
-            Json::Value step;
-            ASSERT_TRUE(reader->parse(line.data(), line.data() + line.size(), &step, nullptr)) << line;
-            EXPECT_EQ(step.getMemberNames(),
-                      std::vector<std::string>({"argument", "calls", "option", "output", "status"}));
-            joined += step["output"].asString();
-            failed = failed || step["status"] != 0;
-            rowSeen = rowSeen || step["option"] == run.row.longName;
-            for (const Json::Value& call : step["calls"]) {
-                Json::Value got = traced(calls < trace.size() ? trace[calls] : "()"), expected(Json::objectValue);
-                expected["call"] = call["interface"].asString() + "." + call["operation"].asString();
-                expected["arguments"] = call["arguments"];
-                const Json::Value& answer = call["answer"];  // with out-parameters, the trace has its result
-                if (got.isMember("answer"))
-                    expected["answer"] = answer.isObject() && answer.isMember("result") ? answer["result"] : answer;
-                EXPECT_EQ(got, expected) << name;
-                ++calls;
-            }
+            ASSERT_TRUE(reader->parse(line.data(), line.data() + line.size(), &steps.emplace_back(), nullptr))
+                    << line;
+            EXPECT_EQ(steps.back().getMemberNames(),
+                      std::vector<std::string>({"argument", "calls", "line", "option", "output", "status"}));
         }
-        EXPECT_TRUE(rowSeen) << name;
-        EXPECT_EQ(joined, run.abc.out) << name;
-        EXPECT_EQ(run.json.err, run.abc.err) << name;
-        EXPECT_EQ(calls, trace.size()) << name;
-        EXPECT_EQ(run.json.status, failed ? 1 : 0) << name;
+        std::string err;
+        bool failed = false;
+        for (size_t line = 1; line <= module.rows.size(); ++line, ++runs) {
+            const RowRun& run = *runs;
+            const std::string name = module.name + " --" + run.row.longName;
+            std::vector<std::string> trace;
+            std::istringstream traceLines(run.abc.calls);
+            for (std::string each; std::getline(traceLines, each);) trace.push_back(each);
+            std::string joined;
+            size_t calls = 0;
+            bool rowSeen = false;
+            for (const Json::Value& step : steps) {
+                if (step["line"].asUInt64() != line) continue;
+                joined += step["output"].asString();
+                failed = failed || step["status"] != 0;
+                rowSeen = rowSeen || step["option"] == run.row.longName;
+                for (const Json::Value& call : step["calls"]) {
+                    Json::Value got = traced(calls < trace.size() ? trace[calls] : "()");
+                    Json::Value expected(Json::objectValue);
+                    expected["call"] = call["interface"].asString() + "." + call["operation"].asString();
+                    expected["arguments"] = call["arguments"];
+                    const Json::Value& answer = call["answer"];  // with out-parameters, the trace has its result
+                    if (got.isMember("answer"))
+                        expected["answer"] = answer.isObject() && answer.isMember("result") ? answer["result"] : answer;
+                    EXPECT_EQ(got, expected) << name;
+                    ++calls;
+                }
+            }
+            EXPECT_TRUE(rowSeen) << name;
+            EXPECT_EQ(joined, run.abc.out) << name;
+            EXPECT_EQ(calls, trace.size()) << name;
+            err += run.abc.err;
+        }
+        EXPECT_EQ(batch.err, err) << module.name;
+        EXPECT_EQ(batch.status, failed ? 1 : 0) << module.name;
     }
 }
 
