@@ -57,7 +57,7 @@ const std::string& ListCommand::Option::getHelpMessageForArgument() const {
 void ListCommand::addRow(std::string_view shortOption, std::string_view longOption,
                          int32_t hasArg, Handler handler, std::string_view help) {
     int32_t val = static_cast<int32_t>(mOptions.size());
-    mOptions.push_back({shortOption, longOption, hasArg, val, std::move(handler), help});
+    mOptions.push_back({shortOption, longOption, hasArg, val, std::move(handler), help, {}});
 }
 
 void ListCommand::addHelp() {

@@ -28,6 +28,8 @@ public:
         int32_t val;                   // index of the row in its table
         Handler handler;               // called with the command and the argument (or null)
         std::string_view help;         // may hold newlines
+        // What the argument is made of, where a run cannot tell it (takes()); empty otherwise.
+        std::string_view argument;
 
         const std::string& getHelpMessageForArgument() const;
     };
@@ -70,6 +72,12 @@ protected:
     template <typename I, typename Body>
     void add(std::string_view shortOption, std::string_view longOption, int32_t hasArg,
              const sp<I>& iface, Body body, std::string_view help = {});
+
+    // Names what the last row's argument is made of, for its reference (docs/options.md); the
+    // option list does not show it. Fields apart as the row splits them, each `<name>`, or the
+    // words it takes, `on|off`, or both, `<channelID>=vga|hdmi1`. A field left out is named by
+    // the reference from the parameter it reaches.
+    void takes(std::string_view argument) { mOptions.back().argument = argument; }
 
     // A row with a handler of its own, numbered by its place in the table.
     void addRow(std::string_view shortOption, std::string_view longOption, int32_t hasArg,

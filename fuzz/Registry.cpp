@@ -20,7 +20,7 @@ std::vector<Module> walkRegistry() {
         for (const auto& option : table->getOptions())
             module.rows.push_back({std::string(option.shortOption),
                                    std::string(option.longOption), option.hasArg,
-                                   std::string(option.help)});
+                                   std::string(option.help), std::string(option.argument)});
         modules.push_back(std::move(module));
     });
     return modules;

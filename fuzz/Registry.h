@@ -13,6 +13,7 @@ struct Row {
     std::string longName;   // without dashes
     int hasArg = 0;         // argument rule of the long form
     std::string help;       // as registered; may be empty or hold newlines
+    std::string argument;   // what the argument is made of, as the row names it; may be empty
 };
 
 struct Module {

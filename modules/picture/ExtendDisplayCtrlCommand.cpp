@@ -65,6 +65,7 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             display.setExtendDisplayHDCPStatus(isOn(in.text));
             return OK;
         });
+    takes("on|off");
     add("s", "getExtendDisplayHDCPStatus", kNone, mExtendDisplayCtrl,
         [](IExtendDisplayCtrl& display, const Input&) {
             std::cout << "getExtendDisplayHDCPStatus: "
@@ -76,6 +77,7 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             display.setTypecOutHDCPStatus(isOn(in.text));
             return OK;
         });
+    takes("on|off");
     add("t", "getTypecOutHDCPStatus", kNone, mExtendDisplayCtrl,
         [](IExtendDisplayCtrl& display, const Input&) {
             std::cout << "getTypecOutHDCPStatus: " << onOff(display.getTypecOutHDCPStatus() == 1)
@@ -92,6 +94,7 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             display.setExtendDisplayEnabled(isOn(in.text));
             return OK;
         });
+    takes("on|off");
     add("c", "getExtendDisplayEnabled", kNone, mExtendDisplayCtrl,
         [](IExtendDisplayCtrl& display, const Input&) {
             std::cout << "getExtendDisplayEnabled: " << onOff(display.getExtendDisplayEnabled())
@@ -103,6 +106,7 @@ Status ExtendDisplayCtrlCommand::registerAllOptions() {
             display.setHdmiInOutEnabled(isOn(in.text));
             return OK;
         });
+    takes("on|off");
     add("f", "getHdmiInOutEnabled", kNone, mExtendDisplayCtrl,
         [](IExtendDisplayCtrl& display, const Input&) {
             std::cout << "getHdmiInOutEnabled: " << onOff(display.getHdmiInOutEnabled()) << '\n';

@@ -111,6 +111,7 @@ Status DeviceCtrlCommand::registerAllOptions() {
         doUsbSwDebug(fields[0], fields[1], fields[2]);
         return OK;
     });
+    takes("set|get,side|all|touchin|pip,<channelID>=vga|hdmi1|hdmi2|hdmi3|pc|typec1|typec2|dp|init|soc");
     // id,state: the line is switched on by "on" only.
     add("p:", "power", kRequired, mDeviceCtrl, [](IDeviceCtrl& device, const Input& in) {
         if (in.missing()) return USAGE;
@@ -118,6 +119,7 @@ Status DeviceCtrlCommand::registerAllOptions() {
         device.setDevicePower(atoi(fields[0].c_str()), fields[1] == "on");
         return OK;
     });
+    takes("<powerId>,on|off");
     add("G", "getNfcTagMsg", kNone, mDeviceCtrl,
         printResult("result: ", &IDeviceCtrl::getNfcTagMsg));
     add("S:", "setNfcTagMsg", kRequired, mDeviceCtrl, [](IDeviceCtrl& device, const Input& in) {

@@ -87,6 +87,7 @@ Status DevicePortCtrlCommand::registerAllOptions() {
                 std::cout << word << " " << port << " failed, status:" << status << "\n";
             return OK;
         });
+    takes("<port>=lan|usb,0|1");
     return OK;
 }
 
