@@ -33,10 +33,17 @@ std::string range(long long low, long long high) {
 }
 
 // What a run called, as the entry shows calls: `setAudioGain(1, 2)`, or why nothing.
+// How many characters two sequences share from their start.
+template <typename It>
+size_t common(It a, It aEnd, It b, It bEnd) {
+    return static_cast<size_t>(std::mismatch(a, aEnd, b, bEnd).first - a);
+}
+
 std::string called(const Module& module, const Result& result) {
     if (Runs::refused(module, result)) return "is refused";
     Words calls;
-    for (const Call& call : Runs::calls(module, result.calls)) calls.push_back("`" + call.text + "`");
+    for (const Call& call : Runs::calls(module, result.calls))
+        calls.push_back("`" + call.text + "`");
     return calls.empty() ? "calls nothing" : "calls " + join(calls, ", ");
 }
 
@@ -93,7 +100,8 @@ std::string Analysis::accepted(const Argument& arg, size_t k) {
     const std::vector<long long> ladder = {INT_MIN, -1, 0,  1,   2,   3,     4,      5,
                                            10,      25, 33, 101, 256, 65536, INT_MAX};
     auto takes = [&](long long value) {
-        return !refused(run(arg.form, joined(with(arg.base, k, std::to_string(value)), arg.separator)));
+        return !refused(
+                run(arg.form, joined(with(arg.base, k, std::to_string(value)), arg.separator)));
     };
     std::vector<std::pair<long long, bool>> points;
     for (long long value : ladder) points.push_back({value, takes(value)});
@@ -144,7 +152,8 @@ Field Analysis::field(const Argument& arg, size_t k) {
     else if (outcome(text) != outcome(runOf("0")))
         f.noNumber = called(mModule, text);
     const Result& real = runOf("1.5");
-    if (f.kind == Field::Kind::Number && !refused(real) && real.calls.find("1.5") != std::string::npos)
+    if (f.kind == Field::Kind::Number && !refused(real) &&
+        real.calls.find("1.5") != std::string::npos)
         f.kind = Field::Kind::Real;
     f.accepts = accepted(arg, k);
     return f;
@@ -152,14 +161,16 @@ Field Analysis::field(const Argument& arg, size_t k) {
 
 // The parameter field `k` reaches: the first argument of a call that changes with it alone.
 std::string Analysis::nameOf(const Argument& arg, size_t k, const std::string& other) {
-    std::vector<Call> before = Runs::calls(mModule, run(arg.form, joined(arg.base, arg.separator)).calls);
-    std::vector<Call> after =
-            Runs::calls(mModule, run(arg.form, joined(with(arg.base, k, other), arg.separator)).calls);
+    std::vector<Call> before =
+            Runs::calls(mModule, run(arg.form, joined(arg.base, arg.separator)).calls);
+    std::vector<Call> after = Runs::calls(
+            mModule, run(arg.form, joined(with(arg.base, k, other), arg.separator)).calls);
     for (size_t i = 0; i < before.size() && i < after.size(); ++i) {
         if (before[i].operation != after[i].operation) return "";
         const Json::Value& a = before[i].arguments;
         const Json::Value& b = after[i].arguments;
-        for (Json::ArrayIndex j = 0; a.isArray() && b.isArray() && j < a.size() && j < b.size(); ++j) {
+        for (Json::ArrayIndex j = 0; a.isArray() && b.isArray() && j < a.size() && j < b.size();
+             ++j) {
             if (a[j] == b[j]) continue;
             const std::string name = parameterName(before[i].interface, before[i].operation, j);
             const std::string member = memberPath(a[j], b[j]);
@@ -173,8 +184,8 @@ std::string Analysis::nameOf(const Argument& arg, size_t k, const std::string& o
 // the value it becomes, the rest as one.
 Words Analysis::valuesOf(const Argument& arg, size_t k) {
     auto becomes = [&](const std::string& value) {
-        std::vector<Call> calls =
-                Runs::calls(mModule, run(arg.form, joined(with(arg.base, k, value), arg.separator)).calls);
+        std::vector<Call> calls = Runs::calls(
+                mModule, run(arg.form, joined(with(arg.base, k, value), arg.separator)).calls);
         for (const Call& call : calls)
             for (const Json::Value& each : call.arguments)
                 if (each.isString()) return each.asString();
@@ -185,7 +196,8 @@ Words Analysis::valuesOf(const Argument& arg, size_t k) {
     Words values;
     for (int value = -1; value <= 9; ++value) {
         std::string text = becomes(std::to_string(value));
-        if (!text.empty() && text != rest) values.push_back("`" + std::to_string(value) + "` \"" + text + "\"");
+        if (!text.empty() && text != rest)
+            values.push_back("`" + std::to_string(value) + "` \"" + text + "\"");
     }
     if (!values.empty()) values.push_back("any other \"" + rest + "\"");
     return values;
@@ -213,7 +225,8 @@ void Analysis::declared(Argument& arg) {
         f.kind = Field::Kind::Words;
         f.words = split(part, '|');
     }
-    for (size_t k = 0; k < parts.size(); ++k) arg.base[k] = arg.fields[k].words.empty() ? "1" : arg.fields[k].words[0];
+    for (size_t k = 0; k < parts.size(); ++k)
+        arg.base[k] = arg.fields[k].words.empty() ? "1" : arg.fields[k].words[0];
     arg.any = !refused(run(arg.form, joined(arg.base, arg.separator)));
     for (size_t k = 0; k < parts.size(); ++k) {
         Field& f = arg.fields[k];
@@ -259,21 +272,24 @@ std::string Analysis::tell(const Argument& arg, size_t k) {
     // The one value that differs among the words, whole: from after "(" or ", " to before ","
     // or ")".
     const size_t n = f.words.size();
-    bool apart = n > 1 && std::none_of(calls.begin(), calls.begin() + n, [](const std::string& c) { return c.empty(); });
+    bool apart = n > 1 && std::none_of(calls.begin(), calls.begin() + n,
+                                       [](const std::string& c) { return c.empty(); });
     size_t head = 0, tail = 0;
     const std::string& first = calls[0];
     if (apart) {
         head = tail = first.size();
         for (size_t i = 0; i < n; ++i) {
             const std::string& c = calls[i];
-            head = std::min(head, size_t(std::mismatch(c.begin(), c.end(), first.begin(), first.end()).first - c.begin()));
-            tail = std::min(tail, size_t(std::mismatch(c.rbegin(), c.rend(), first.rbegin(), first.rend()).first - c.rbegin()));
+            head = std::min(head, common(c.begin(), c.end(), first.begin(), first.end()));
+            tail = std::min(tail, common(c.rbegin(), c.rend(), first.rbegin(), first.rend()));
         }
         while (head > 0 && first[head - 1] != '(' && first[head - 1] != ' ') --head;
         tail = std::min(tail, first.size() - head);
-        while (tail > 0 && first[first.size() - tail] != ',' && first[first.size() - tail] != ')') --tail;
+        while (tail > 0 && first[first.size() - tail] != ',' && first[first.size() - tail] != ')')
+            --tail;
         size_t open = first.rfind('(', head ? head - 1 : 0);
-        apart = head > 0 && tail > 0 && open != std::string::npos && first.find(')', open) >= first.size() - tail;
+        apart = head > 0 && tail > 0 && open != std::string::npos &&
+                first.find(')', open) >= first.size() - tail;
         for (size_t i = 0; i < n; ++i) apart = apart && calls[i].size() >= head + tail;
     }
     // A value for each try, "" where its calls are not the words' calls with another value.
@@ -288,7 +304,8 @@ std::string Analysis::tell(const Argument& arg, size_t k) {
     Words told;
     bool typed = apart;
     for (size_t i = 0; i < n; ++i) {
-        told.push_back("`" + f.words[i] + "` " + (apart ? values[i] : called(mModule, runOf(f.words[i]))));
+        told.push_back("`" + f.words[i] + "` " +
+                       (apart ? values[i] : called(mModule, runOf(f.words[i]))));
         typed = typed && values[i] == "\"" + f.words[i] + "\"";
     }
     std::string text;
@@ -309,7 +326,8 @@ std::string Analysis::tell(const Argument& arg, size_t k) {
             const Result& result = runOf("abc");
             const std::string& printed = result.err.empty() ? result.out : result.err;
             const std::string said = printed.substr(0, printed.find('\n'));
-            text += "; other text (`abc`) " + called(mModule, result) + (said.empty() ? "" : " and prints " + code(said));
+            text += "; other text (`abc`) " + called(mModule, result) +
+                    (said.empty() ? "" : " and prints " + code(said));
         } else if (other != "\"abc\"" || !typed) {
             text += "; other text " + other;
         }
@@ -339,7 +357,8 @@ std::string Analysis::exampleOf(const Argument& arg) {
             values[k] = "abc";
             continue;
         }
-        for (const std::string& candidate : {std::to_string(k + 1), std::string("1"), std::string("0")})
+        for (const std::string& candidate :
+             {std::to_string(k + 1), std::string("1"), std::string("0")})
             if (!refused(run(arg.form, joined(with(arg.base, k, candidate), arg.separator)))) {
                 values[k] = candidate;
                 break;
@@ -361,7 +380,8 @@ Argument Analysis::argument(const Form& form) {
                 Words base(kFields, value);
                 const Result& first = run(form, joined(base, separator));
                 if (refused(first)) continue;
-                if (!arg.any && first.calls.find('"' + joined(base, separator) + '"') != std::string::npos) {
+                if (!arg.any &&
+                    first.calls.find('"' + joined(base, separator) + '"') != std::string::npos) {
                     arg.any = arg.whole = true;
                     arg.base = {joined(base, separator)};
                     arg.fields = {Field{true, "", Field::Kind::Text, "", "", {}, false, "", {}}};
@@ -385,7 +405,8 @@ Argument Analysis::argument(const Form& form) {
         }
         if (!arg.any) return arg;
         if (!arg.whole)
-            for (size_t k = 0; k < best.size(); ++k) arg.fields.push_back(best[k] ? field(arg, k) : Field());
+            for (size_t k = 0; k < best.size(); ++k)
+                arg.fields.push_back(best[k] ? field(arg, k) : Field());
     }
     for (size_t k = 0; k < arg.fields.size(); ++k) {
         Field& f = arg.fields[k];
@@ -395,7 +416,8 @@ Argument Analysis::argument(const Form& form) {
         else if (!arg.whole) others = {"2", "0", "3", "1"};
         for (const std::string& other : others)
             if (other != arg.base[k] && f.name.empty()) f.name = nameOf(arg, k, other);
-        if (f.kind == Field::Kind::Number || f.kind == Field::Kind::Hex) f.values = valuesOf(arg, k);
+        if (f.kind == Field::Kind::Number || f.kind == Field::Kind::Hex)
+            f.values = valuesOf(arg, k);
     }
     arg.example = exampleOf(arg);
     arg.emptyRefused = refused(run(form, ""));

@@ -46,7 +46,9 @@ Words tokens(const std::string& name) {
     std::string word;
     for (size_t i = 0; i < name.size(); ++i) {
         unsigned char c = static_cast<unsigned char>(name[i]);
-        bool upper = isupper(c), nextLower = i + 1 < name.size() && islower(static_cast<unsigned char>(name[i + 1]));
+        const bool upper = isupper(c);
+        const bool nextLower =
+                i + 1 < name.size() && islower(static_cast<unsigned char>(name[i + 1]));
         bool prevLower = !word.empty() && islower(static_cast<unsigned char>(word.back()));
         if (!isalnum(c) || (upper && (prevLower || (nextLower && !word.empty())))) {
             if (!word.empty()) found.push_back(word);
@@ -113,7 +115,8 @@ Words fieldNotes(const Argument& arg) {
                                  : !f.words.empty() ? code(join(f.words, "|"))
                                  : "field " + std::to_string(k + 1);
         const std::string text = join(said, "; ");
-        auto same = std::find_if(notes.begin(), notes.end(), [&](const auto& n) { return n.second == text; });
+        auto same = std::find_if(notes.begin(), notes.end(),
+                                 [&](const auto& n) { return n.second == text; });
         if (same == notes.end()) notes.push_back({{name}, text});
         else if (std::find(same->first.begin(), same->first.end(), name) == same->first.end())
             same->first.push_back(name);
@@ -129,6 +132,34 @@ Words fieldNotes(const Argument& arg) {
     // Where text is refused, so is an empty field: the rules at the top say so.
     if (arg.emptyRefused && !refusesText) sentences.push_back("An empty argument is refused.");
     return sentences;
+}
+
+// A text on one line: every run of blanks and newlines one blank, none at the ends.
+std::string collapsed(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        const bool blank = c == ' ' || c == '\n' || c == '\t';
+        if (!blank) out += c;
+        else if (!out.empty() && out.back() != ' ') out += ' ';
+    }
+    if (!out.empty() && out.back() == ' ') out.pop_back();
+    return out;
+}
+
+// Whether an option list's help only names the C++ types of the fields (`unsigned int,bool`):
+// the fields' notes say more, having run them.
+bool namesTypesOnly(const std::string& help) {
+    static const std::set<std::string> kTypes = {"unsigned", "int", "bool", "float", "std::string"};
+    std::string word;
+    for (char c : help + ",") {
+        if (c != ' ' && c != ',' && c != '\n') {
+            word += c;
+        } else if (!word.empty()) {
+            if (!kTypes.count(word)) return false;
+            word.clear();
+        }
+    }
+    return true;
 }
 
 }  // namespace
@@ -193,9 +224,12 @@ Entry entry(Runs& runs, const Module& module, const Row& row, std::set<std::stri
         for (const std::string& note : fieldNotes(arg)) notes.push_back(note);
     }
     e.operations.insert(analysis.operations().begin(), analysis.operations().end());
+    if (!row.help.empty() && !namesTypesOnly(row.help))
+        notes.push_back("The option list says " + code(collapsed(row.help)) + ".");
 
     bool changes = false;
-    for (const std::string& op : e.operations) changes = changes || !reads(op.substr(op.find('.') + 1));
+    for (const std::string& op : e.operations)
+        changes = changes || !reads(op.substr(op.find('.') + 1));
     if (changes) {
         Words kept;
         for (const auto& [getter, value] : runs.kept(module, words)) {
@@ -204,7 +238,8 @@ Entry entry(Runs& runs, const Module& module, const Row& row, std::set<std::stri
                                       : getter;
             kept.push_back(code(key) + " answers " + code(value));
         }
-        notes.push_back("Changes the panel" + (kept.empty() ? std::string(".") : "; then " + join(kept, ", ") + "."));
+        notes.push_back("Changes the panel" +
+                        (kept.empty() ? std::string(".") : "; then " + join(kept, ", ") + "."));
     }
     std::string meaning = glossary(e.operations, told);
     if (!meaning.empty()) notes.push_back(meaning);

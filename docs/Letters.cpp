@@ -98,15 +98,18 @@ std::string Letters::sentence(const Row& row, bool takesArgument) {
         if ((stopped = Runs::refused(mModule, mRuns.run(mModule, alone)))) break;
     }
     std::string text = code(join(words, " ")) + " ";
-    if (ran.empty()) return text + "reaches no option: it prints " + code(unknown) + " and the option list.";
+    if (ran.empty())
+        return text + "reaches no option: it prints " + code(unknown) + " and the option list.";
     Words parts;
     for (const Step& step : ran)
-        parts.push_back((step.row == &row ? std::string("this option") : code("--" + step.row->longName)) +
-                        (step.argument         ? " with " + code(step.value)
-                         : step.row->hasArg != 0 ? std::string(" without an argument")
-                                                 : std::string()));
+        parts.push_back(
+                (step.row == &row ? std::string("this option") : code("--" + step.row->longName)) +
+                (step.argument           ? " with " + code(step.value)
+                 : step.row->hasArg != 0 ? std::string(" without an argument")
+                                         : std::string()));
     text += "runs " + join(parts, ", then ");
-    if (!stopped && !unknown.empty()) text += ", then prints " + code(unknown) + " and the option list";
+    if (!stopped && !unknown.empty())
+        text += ", then prints " + code(unknown) + " and the option list";
     // The calls are those of the options run, told in their entries; only a refusal is said here.
     return text + (stopped ? ": refused." : ".");
 }
@@ -119,7 +122,8 @@ bool Letters::carriesArgument(const Row& row) const {
 Words Letters::clashes() const {
     std::map<char, Words> listed;
     for (const Row& row : mModule.rows)
-        if (!row.shortSpec.empty() && row.longName != "help") listed[row.shortSpec[0]].push_back("--" + row.longName);
+        if (!row.shortSpec.empty() && row.longName != "help")
+            listed[row.shortSpec[0]].push_back("--" + row.longName);
     Words lines;
     for (const auto& [letter, rows] : listed) {
         if (rows.size() < 2) continue;
@@ -127,8 +131,9 @@ Words Letters::clashes() const {
         Words others;
         for (const std::string& name : rows)
             if (name != runs) others.push_back(code(name));
-        lines.push_back(code("-" + std::string(1, letter) + (colonsAfter(letter).empty() ? "" : " 1")) +
-                        " runs " + code(runs) + ", not " + join(others, ", ") + ".");
+        lines.push_back(
+                code("-" + std::string(1, letter) + (colonsAfter(letter).empty() ? "" : " 1")) +
+                " runs " + code(runs) + ", not " + join(others, ", ") + ".");
     }
     return lines;
 }

@@ -47,7 +47,8 @@ std::vector<Call> Runs::calls(const Module& module, const std::string& trace) {
         Call call{line.substr(0, dot), line.substr(dot + 1, open - dot - 1), line, Json::Value()};
         if (call.interface == own) call.text = line.substr(dot + 1);
         std::string error;
-        adaptor::parse("[" + line.substr(open + 1, line.size() - open - 2) + "]", call.arguments, error);
+        adaptor::parse("[" + line.substr(open + 1, line.size() - open - 2) + "]", call.arguments,
+                       error);
         found.push_back(std::move(call));
     }
     return found;
@@ -66,11 +67,13 @@ std::vector<std::pair<std::string, std::string>> Runs::kept(const Module& module
     for (const std::string& iface : memory.getMemberNames())
         if (memory[iface].isObject())
             for (const std::string& key : memory[iface].getMemberNames())
-                found.push_back({iface + "." + key, adaptor::profileText(memory[iface][key], true)});
+                found.push_back(
+                        {iface + "." + key, adaptor::profileText(memory[iface][key], true)});
     return found;
 }
 
-std::string parameterName(const std::string& interface, const std::string& operation, size_t index) {
+std::string parameterName(const std::string& interface, const std::string& operation,
+                          size_t index) {
     const adaptor::Interface* in = adaptor::kService.find(interface);
     const adaptor::Operation* op = in ? adaptor::Service::find(*in, operation) : nullptr;
     for (unsigned i = 0, seen = 0; op && i < op->count; ++i) {

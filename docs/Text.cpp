@@ -67,7 +67,8 @@ std::string example(const Module& module, const Words& words, const Result& resu
     std::string command = "    $ " + commandLine(module, words);
     Words calls;
     for (const Call& call : Runs::calls(module, result.calls)) calls.push_back(call.text);
-    std::string comment = "# " + (calls.empty() ? std::string("nothing called") : join(calls, ", "));
+    std::string comment =
+            "# " + (calls.empty() ? std::string("nothing called") : join(calls, ", "));
     std::string block;
     if (command.size() + 2 + comment.size() <= kWidth) {
         block = command + "  " + comment + "\n";
@@ -98,7 +99,8 @@ std::string example(const Module& module, const Words& words, const Result& resu
     // A line telling of one more would take the room of the line.
     const size_t shown = lines.size() > kShown + 1 ? kShown : lines.size();
     for (size_t i = 0; i < shown; ++i) block += lines[i] + "\n";
-    if (shown < lines.size()) block += "    ... (" + std::to_string(lines.size() - shown) + " lines more)\n";
+    if (shown < lines.size())
+        block += "    ... (" + std::to_string(lines.size() - shown) + " lines more)\n";
     return block;
 }
 

@@ -2,7 +2,8 @@
 // learnt from the tables the binary is built from, the table of the service's shape and from
 // running the rows through the binary's entry against the simulated panel. Rewrite it after a
 // change to any table:
-//     cmake --build build --target options_reference && build/docs/options_reference > docs/options.md
+//     cmake --build build --target options_reference &&
+//         build/docs/options_reference > docs/options.md
 // With --snapshot it writes record/snapshot.txt instead.
 
 #include <sys/wait.h>
@@ -40,9 +41,10 @@ parameters they reach (`--setAudioGain=<module>,<value>`) or by the words they t
 Then a run as a terminal shows it: the command, after `#` the calls the panel received, what it
 printed (standard error after `!`; a tab `\t`, a blank ending a line `\x20`, another control byte
 `\xNN`, a backslash `\\`). Then what the run does not show: how a field is read where not as
-below, what each word does, whether the option changes the panel (calls an operation other than a
-read, whose name begins with `get`, `Get`, `is`, `Is` or `read`) and what the simulated panel's
-memory (`BREL_SIM_STATE`) then answers, what an abbreviation stands for, what its letter runs.
+below, what each word does, what the option list says of it, whether the option changes the panel
+(calls an operation whose name does not begin with `get`, `Get`, `is`, `Is` or `read`) and what
+the simulated panel's memory (`BREL_SIM_STATE`) then answers, what an abbreviation stands for,
+what its letter runs.
 
 **Arguments.** Fields are apart by `,` unless the head shows another mark. A field is a number,
 read as C's `atoi` reads it: text that is no number counts as 0, and so does a field left out;
@@ -80,12 +82,14 @@ struct Scratch {
 // it), the largest first to the one with least to do; each writes its entries to the scratch
 // directory, and they are read back in order: the operations a line each, then the text, each
 // after its count.
-std::vector<std::vector<Entry>> entries(const std::vector<Module>& modules, const std::string& scratch) {
+std::vector<std::vector<Entry>> entries(const std::vector<Module>& modules,
+                                        const std::string& scratch) {
     const size_t workers = std::clamp<size_t>(std::thread::hardware_concurrency(), 1, 8);
     std::vector<size_t> bySize(modules.size());
     for (size_t m = 0; m < bySize.size(); ++m) bySize[m] = m;
-    std::stable_sort(bySize.begin(), bySize.end(),
-                     [&](size_t a, size_t b) { return modules[a].rows.size() > modules[b].rows.size(); });
+    std::stable_sort(bySize.begin(), bySize.end(), [&](size_t a, size_t b) {
+        return modules[a].rows.size() > modules[b].rows.size();
+    });
     std::vector<std::vector<size_t>> share(workers);
     std::vector<size_t> load(workers);
     for (size_t m : bySize) {
@@ -136,7 +140,8 @@ std::vector<std::vector<Entry>> entries(const std::vector<Module>& modules, cons
                 size_t count = 0;
                 from >> count;
                 from.ignore();
-                for (std::string op; count > 0 && std::getline(from, op); --count) e.operations.insert(op);
+                for (std::string op; count > 0 && std::getline(from, op); --count)
+                    e.operations.insert(op);
                 size_t size = 0;
                 from >> size;
                 from.ignore();
@@ -155,9 +160,10 @@ std::string index(const std::vector<Module>& modules, const std::vector<size_t>&
     for (size_t m : order)
         links.push_back("[" + modules[m].name + "](#" + anchor(modules[m].name) + ") (" +
                         std::to_string(all[m].size()) + ")");
-    std::string text = "## Index\n\n" + wrap(join(links, ", ") + ".") + "\n";
-    std::map<std::string, Words> callers;  // operation, the options of other names that call it
-    std::map<std::string, bool> named;     // operation: an option of its own name calls it
+    std::string text = "## Index\n" + wrap(join(links, ", ") + ".") + "\n";
+    // operation: the options of other names that call it, by sub-service
+    std::map<std::string, std::vector<std::pair<std::string, Words>>> callers;
+    std::map<std::string, bool> named;  // operation: an option of its own name calls it
     for (size_t m : order) {
         size_t e = 0;
         for (const Row& row : modules[m].rows) {
@@ -165,16 +171,32 @@ std::string index(const std::vector<Module>& modules, const std::vector<size_t>&
             for (const std::string& op : all[m][e].operations) {
                 std::string name = op.substr(op.find('.') + 1);
                 named[name] = named[name] || name == row.longName;
-                callers[name].push_back(modules[m].name + " " + code("--" + row.longName));
+                auto& by = callers[name];
+                if (by.empty() || by.back().first != modules[m].name)
+                    by.push_back({modules[m].name, {}});
+                by.back().second.push_back(code("--" + row.longName));
             }
             ++e;
         }
     }
+    // Operations that the same options call share a line.
+    std::vector<std::pair<std::string, Words>> groups;  // the options, their operations
+    for (const auto& [op, by] : callers) {
+        if (named[op]) continue;
+        Words options;
+        for (const auto& [module, longForms] : by)
+            options.push_back(module + " " + join(longForms, ", "));
+        const std::string who = join(options, "; ");
+        auto same = std::find_if(groups.begin(), groups.end(),
+                                 [&](const auto& g) { return g.first == who; });
+        if (same == groups.end()) groups.push_back({who, {code(op)}});
+        else same->second.push_back(code(op));
+    }
     Words lines;
-    for (const auto& [op, options] : callers)
-        if (!named[op]) lines.push_back(wrap("- " + code(op) + ": " + join(options, ", "), "  "));
+    for (const auto& [who, ops] : groups)
+        lines.push_back(wrap("- " + join(ops, ", ") + ": " + who, "  "));
     if (!lines.empty())
-        text += "Operations that options of other names call:\n\n" + join(lines, "") + "\n";
+        text += "Operations that options of other names call:\n" + join(lines, "") + "\n";
     return text;
 }
 
