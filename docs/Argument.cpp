@@ -32,19 +32,28 @@ std::string range(long long low, long long high) {
     return std::to_string(low) + " to " + std::to_string(high);
 }
 
-// What a run called, as the entry shows calls: `setAudioGain(1, 2)`, or why nothing.
 // How many characters two sequences share from their start.
 template <typename It>
 size_t common(It a, It aEnd, It b, It bEnd) {
     return static_cast<size_t>(std::mismatch(a, aEnd, b, bEnd).first - a);
 }
 
+// What a run called, as the entry shows calls: `setAudioGain(1, 2)`, or why nothing.
 std::string called(const Module& module, const Result& result) {
     if (Runs::refused(module, result)) return "is refused";
     Words calls;
     for (const Call& call : Runs::calls(module, result.calls))
         calls.push_back("`" + call.text + "`");
     return calls.empty() ? "calls nothing" : "calls " + join(calls, ", ");
+}
+
+// What text that is none of a field's words does: what it calls and the first line it prints,
+// which says why.
+std::string otherText(const Module& module, const Result& result) {
+    const std::string& printed = result.err.empty() ? result.out : result.err;
+    const std::string said = printed.substr(0, printed.find('\n'));
+    return "other text (`abc`) " + called(module, result) +
+           (said.empty() ? "" : " and prints " + code(said));
 }
 
 // Where two values of one type differ: "rect_p1.point_x" in a record, "" where they are plain
@@ -322,12 +331,7 @@ std::string Analysis::tell(const Argument& arg, size_t k) {
         if (number == "7") text = "a number, or " + text;
         else text = "for instance " + text;
         if (other.empty()) {
-            // Not passed on: what it calls and the first line it prints, which says why.
-            const Result& result = runOf("abc");
-            const std::string& printed = result.err.empty() ? result.out : result.err;
-            const std::string said = printed.substr(0, printed.find('\n'));
-            text += "; other text (`abc`) " + called(mModule, result) +
-                    (said.empty() ? "" : " and prints " + code(said));
+            text += "; " + otherText(mModule, runOf("abc"));
         } else if (other != "\"abc\"" || !typed) {
             text += "; other text " + other;
         }
@@ -337,11 +341,11 @@ std::string Analysis::tell(const Argument& arg, size_t k) {
     if (!f.example) {
         // Anything else: as which word, if as one.
         const std::string other = outcome(runOf("abc"));
-        for (const std::string& word : f.words)
-            if (other == outcome(runOf(word))) {
-                text += "; anything else as `" + word + "`";
-                break;
-            }
+        auto as = std::find_if(f.words.begin(), f.words.end(), [&](const std::string& word) {
+            return other == outcome(runOf(word));
+        });
+        text += as != f.words.end() ? "; anything else as `" + *as + "`"
+                                    : "; " + otherText(mModule, runOf("abc"));
     }
     return text;
 }
