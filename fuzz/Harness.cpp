@@ -122,9 +122,12 @@ void report(const char* format, ...) {
     dprintf(gReportFd, "\n");
 }
 
-void addFuzzerDefaults(int* argc, char*** argv) {
+}  // namespace dumpbrel_fuzz
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    dumpbrel_fuzz::setUp();
     for (int i = 1; i < *argc; ++i)
-        if (strncmp((*argv)[i], "-close_fd_mask=", 15) == 0) return;
+        if (strncmp((*argv)[i], "-close_fd_mask=", 15) == 0) return 0;
     static std::vector<char*> extended;
     static char mask[] = "-close_fd_mask=3";
     extended.assign(*argv, *argv + *argc);
@@ -132,6 +135,5 @@ void addFuzzerDefaults(int* argc, char*** argv) {
     extended.push_back(nullptr);
     *argc += 1;
     *argv = extended.data();
+    return 0;
 }
-
-}  // namespace dumpbrel_fuzz

@@ -35,11 +35,12 @@ void runTool(const std::vector<std::string>& words);
 // One line on the real standard error.
 void report(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
-// libFuzzer's flags as given, plus -close_fd_mask=3 unless the caller chose a mask: the tool's
-// own output goes to /dev/null while libFuzzer's and the sanitizers' reports stay visible.
-void addFuzzerDefaults(int* argc, char*** argv);
-
 }  // namespace dumpbrel_fuzz
+
+// Every target's start, defined once here: the harness set up, and libFuzzer's flags as given
+// plus -close_fd_mask=3 unless the caller chose a mask, so that the tool's own output goes to
+// /dev/null while libFuzzer's and the sanitizers' reports stay visible.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);

@@ -7,12 +7,6 @@
 
 #include "Harness.h"
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    dumpbrel_fuzz::setUp();
-    dumpbrel_fuzz::addFuzzerDefaults(argc, argv);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     dumpbrel_fuzz::setUp();
 

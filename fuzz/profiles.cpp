@@ -31,12 +31,6 @@ const std::vector<std::vector<std::string>> kCommands = {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    dumpbrel_fuzz::setUp();
-    dumpbrel_fuzz::addFuzzerDefaults(argc, argv);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     dumpbrel_fuzz::setUp();
     const std::string text(reinterpret_cast<const char*>(data), size);
